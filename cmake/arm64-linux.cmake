@@ -1,0 +1,12 @@
+# Linux on arm64: stand-ins, hosts and tests, run by qemu's user emulation.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+foreach(language C CXX OBJCXX ASM)
+    set(CMAKE_${language}_COMPILER_TARGET aarch64-linux-gnu)
+endforeach()
+set(CMAKE_C_COMPILER clang-19)
+set(CMAKE_CXX_COMPILER clang++-19)
+set(CMAKE_SYSROOT "${CMAKE_CURRENT_LIST_DIR}/../build/sysroot-arm64")
+set(CMAKE_EXE_LINKER_FLAGS_INIT -fuse-ld=lld)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -fuse-ld=lld)
+set(CMAKE_CROSSCOMPILING_EMULATOR "qemu-aarch64-static;-L;${CMAKE_SYSROOT}")

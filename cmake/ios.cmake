@@ -1,0 +1,11 @@
+# iOS on arm64, from Linux: the compiler only; src/CMakeLists.txt calls the linker itself.
+set(CMAKE_SYSTEM_NAME Generic)
+set(CMAKE_SYSTEM_PROCESSOR arm64)
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+foreach(language C CXX)
+    set(CMAKE_${language}_COMPILER_TARGET arm64-apple-ios7.0)
+endforeach()
+set(CMAKE_C_COMPILER clang-19)
+set(CMAKE_CXX_COMPILER clang++-19)
+set(CMAKE_AR llvm-ar-19)
+set(CMAKE_RANLIB llvm-ranlib-19)
