@@ -1,0 +1,61 @@
+/// Points, sizes and rectangles: the plain structures that every view measures itself in, in points of the
+/// screen.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+typedef struct CGPoint {
+    CGFloat x;
+    CGFloat y;
+} CGPoint;
+
+typedef struct CGSize {
+    CGFloat width;
+    CGFloat height;
+} CGSize;
+
+typedef struct CGRect {
+    CGPoint origin;
+    CGSize size;
+} CGRect;
+
+static const CGPoint CGPointZero = {0, 0};
+static const CGSize CGSizeZero = {0, 0};
+static const CGRect CGRectZero = {{0, 0}, {0, 0}};
+
+static inline CGPoint CGPointMake(CGFloat x, CGFloat y) { return (CGPoint){x, y}; }
+static inline CGSize CGSizeMake(CGFloat width, CGFloat height) { return (CGSize){width, height}; }
+static inline CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
+    return (CGRect){{x, y}, {width, height}};
+}
+
+static inline CGFloat CGRectGetMinX(CGRect rect) { return rect.origin.x; }
+static inline CGFloat CGRectGetMinY(CGRect rect) { return rect.origin.y; }
+static inline CGFloat CGRectGetMaxX(CGRect rect) { return rect.origin.x + rect.size.width; }
+static inline CGFloat CGRectGetMaxY(CGRect rect) { return rect.origin.y + rect.size.height; }
+static inline CGFloat CGRectGetMidX(CGRect rect) { return rect.origin.x + rect.size.width / 2; }
+static inline CGFloat CGRectGetMidY(CGRect rect) { return rect.origin.y + rect.size.height / 2; }
+static inline CGFloat CGRectGetWidth(CGRect rect) { return rect.size.width; }
+static inline CGFloat CGRectGetHeight(CGRect rect) { return rect.size.height; }
+
+static inline bool CGPointEqualToPoint(CGPoint a, CGPoint b) { return a.x == b.x && a.y == b.y; }
+static inline bool CGSizeEqualToSize(CGSize a, CGSize b) {
+    return a.width == b.width && a.height == b.height;
+}
+static inline bool CGRectEqualToRect(CGRect a, CGRect b) {
+    return CGPointEqualToPoint(a.origin, b.origin) && CGSizeEqualToSize(a.size, b.size);
+}
+
+/// The left and top edges belong to a rectangle, the right and bottom edges do not.
+static inline bool CGRectContainsPoint(CGRect rect, CGPoint point) {
+    return point.x >= CGRectGetMinX(rect) && point.x < CGRectGetMaxX(rect) &&
+           point.y >= CGRectGetMinY(rect) && point.y < CGRectGetMaxY(rect);
+}
+static inline bool CGRectIsEmpty(CGRect rect) { return rect.size.width <= 0 || rect.size.height <= 0; }
+static inline CGRect CGRectInset(CGRect rect, CGFloat dx, CGFloat dy) {
+    return CGRectMake(rect.origin.x + dx, rect.origin.y + dy, rect.size.width - 2 * dx,
+                      rect.size.height - 2 * dy);
+}
+static inline CGRect CGRectOffset(CGRect rect, CGFloat dx, CGFloat dy) {
+    return CGRectMake(rect.origin.x + dx, rect.origin.y + dy, rect.size.width, rect.size.height);
+}

@@ -1,0 +1,4 @@
+/// Stand-in of the layer framework.
+#pragma once
+
+#import "QuartzCore/CALayer.h"

@@ -1,0 +1,38 @@
+/// The device that runs the application: its kind and its haptic engine.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
+    UIUserInterfaceIdiomUnspecified = -1,
+    UIUserInterfaceIdiomPhone = 0,
+    UIUserInterfaceIdiomPad = 1,
+};
+
+/// Taps the user's finger; the simulated one keeps what it was asked for.
+@interface _UITapticEngine : NSObject {
+  @private
+    NSMutableArray* _actuatedFeedback;
+}
+
+- (void)actuateFeedback:(NSInteger)feedback;
+
+/// NSNumbers of all feedback played so far, oldest first.
+@property (nonatomic, readonly) NSArray* actuatedFeedback;
+
+@end
+
+@interface UIDevice : NSObject {
+  @private
+    _UITapticEngine* _engine;
+}
+
++ (UIDevice*)currentDevice;
+
+@property (nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
+@property (nonatomic, readonly) NSString* systemVersion;
+
+/// nil on a device without one.
+- (_UITapticEngine*)_tapticEngine;
+
+@end

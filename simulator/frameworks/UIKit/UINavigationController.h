@@ -1,0 +1,56 @@
+/// A stack of controllers under a bar that shows the title of the topmost.
+#pragma once
+
+#import "UIKit/UINavigationItem.h"
+#import "UIKit/UIViewController.h"
+
+@class UINavigationController;
+
+namespace simulator {
+struct NavigationState;
+}
+
+@interface UINavigationBar : UIView {
+  @private
+    NSArray* _items;
+}
+
+/// One item for each controller of the stack, the topmost last.
+@property (nonatomic, copy) NSArray* items;
+@property (nonatomic, readonly, assign) UINavigationItem* topItem;
+@property (nonatomic, readonly, assign) UINavigationItem* backItem;
+
+@end
+
+@interface UIToolbar : UIView {
+  @private
+    NSArray* _items;
+}
+
+@property (nonatomic, copy) NSArray* items;
+- (void)setItems:(NSArray*)items animated:(BOOL)animated;
+
+@end
+
+@interface UINavigationController : UIViewController {
+  @private
+    simulator::NavigationState* _navigationState;
+}
+
+- (instancetype)initWithRootViewController:(UIViewController*)root;
+
+@property (nonatomic, readonly) UINavigationBar* navigationBar;
+@property (nonatomic, readonly) UIToolbar* toolbar;
+@property (nonatomic, getter=isNavigationBarHidden) BOOL navigationBarHidden;
+@property (nonatomic, getter=isToolbarHidden) BOOL toolbarHidden;
+@property (nonatomic, copy) NSArray* viewControllers;
+@property (nonatomic, readonly, assign) UIViewController* topViewController;
+@property (nonatomic, readonly, assign) UIViewController* visibleViewController;
+- (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated;
+/// The popped controller; nil when only the root is left.
+- (UIViewController*)popViewControllerAnimated:(BOOL)animated;
+/// The popped controllers, empty when the root was on top.
+- (NSArray*)popToRootViewControllerAnimated:(BOOL)animated;
+- (NSArray*)popToViewController:(UIViewController*)controller animated:(BOOL)animated;
+
+@end

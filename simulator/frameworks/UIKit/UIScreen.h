@@ -1,0 +1,15 @@
+/// The device's screen, measured as the device's conditions say.
+#pragma once
+
+#import "CoreGraphics/CoreGraphics.h"
+
+@interface UIScreen : NSObject
+
++ (UIScreen*)mainScreen;
+
+/// In points. Before iOS 8 always as held upright.
+@property (nonatomic, readonly) CGRect bounds;
+/// Pixels to a point.
+@property (nonatomic, readonly) CGFloat scale;
+
+@end

@@ -1,0 +1,28 @@
+/// A view whose content may be larger than itself.
+#pragma once
+
+#import "UIKit/UIView.h"
+
+typedef struct UIEdgeInsets {
+    CGFloat top;
+    CGFloat left;
+    CGFloat bottom;
+    CGFloat right;
+} UIEdgeInsets;
+
+@interface UIScrollView : UIView {
+  @private
+    CGSize _contentSize;
+    UIEdgeInsets _contentInset;
+    id _scrollDelegate;
+}
+
+@property (nonatomic) CGSize contentSize;
+/// The origin of the bounds.
+@property (nonatomic) CGPoint contentOffset;
+@property (nonatomic) UIEdgeInsets contentInset;
+/// Not retained.
+@property (nonatomic, assign) id delegate;
+- (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated;
+
+@end

@@ -1,0 +1,32 @@
+/// Several controllers, of which the bar at the bottom chooses one.
+#pragma once
+
+#import "UIKit/UIBarButtonItem.h"
+#import "UIKit/UIViewController.h"
+
+namespace simulator {
+struct TabState;
+}
+
+@interface UITabBar : UIView {
+  @private
+    NSArray* _items;
+    UITabBarItem* _selectedItem;
+}
+
+@property (nonatomic, copy) NSArray* items;
+@property (nonatomic, assign) UITabBarItem* selectedItem;
+
+@end
+
+@interface UITabBarController : UIViewController {
+  @private
+    simulator::TabState* _tabState;
+}
+
+@property (nonatomic, readonly) UITabBar* tabBar;
+@property (nonatomic, copy) NSArray* viewControllers;
+@property (nonatomic, assign) UIViewController* selectedViewController;
+@property (nonatomic) NSUInteger selectedIndex;
+
+@end
