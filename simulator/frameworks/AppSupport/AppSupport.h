@@ -1,0 +1,23 @@
+// Named message centres between the processes of the device.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+@interface CPDistributedMessagingCenter : NSObject
+// One object per name and process.
++ (instancetype)centerNamed:(NSString*)name;
+
+- (NSString*)name;
+
+// Sends without waiting for an answer. userInfo must be a property list or nil. NO when no server took it:
+// then the message is lost.
+- (BOOL)sendMessageName:(NSString*)name userInfo:(NSDictionary*)userInfo;
+
+// Serves this centre: handlers run on the run loop of the calling thread, one message after the other.
+- (void)runServerOnCurrentThread;
+- (void)stopServer;
+
+// The target is not retained; its method gets the message's name and userInfo.
+- (void)registerForMessageName:(NSString*)name target:(id)target selector:(SEL)selector;
+- (void)unregisterForMessageName:(NSString*)name;
+@end

@@ -1,0 +1,12 @@
+// The reasons that authentication dialogs showed, for tests.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace simulator {
+
+// In order, as UTF-8. Any thread.
+std::vector<std::string> authenticationReasons();
+
+} // namespace simulator

@@ -1,0 +1,53 @@
+// Starts host applications as processes of their own and speaks to them over their control sockets.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace simulator {
+
+struct HostProcessOptions {
+    std::filesystem::path program; // the program `host`
+    std::string bundleIdentifier;
+    std::filesystem::path device;
+    std::optional<std::filesystem::path> library;
+    std::vector<std::string> emulator =
+        {};              // command that runs the program, e.g. qemu-aarch64-static -L SYSROOT
+    double timeout = 20; // seconds to get ready, and for each call
+};
+
+// A running host; it ends with this object at the latest. Every failure is a std::runtime_error that names
+// the host.
+class HostProcess {
+  public:
+    explicit HostProcess(HostProcessOptions options);
+    ~HostProcess();
+    HostProcess(HostProcess&& other) noexcept;
+    HostProcess& operator=(HostProcess&&) = delete;
+
+    // Sends {"do": verb, ...}, waits for the answer; throws what the host reports as {"error": text}.
+    nlohmann::json call(const nlohmann::json& request);
+    nlohmann::json call(const std::string& verb) { return call(nlohmann::json{{"do", verb}}); }
+
+    void stop(); // asks it to quit and waits
+    void kill(); // ends it at once
+    bool isRunning();
+    int processIdentifier() const { return m_process; }
+
+  private:
+    void start();
+    void connect();
+    std::string describeEnd(int status) const;
+    std::string readLine();
+
+    HostProcessOptions m_options;
+    int m_process = -1;
+    int m_socket = -1;
+    std::string m_received;
+};
+
+} // namespace simulator
