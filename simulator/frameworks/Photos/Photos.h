@@ -1,0 +1,294 @@
+// The Photos framework: fetches from, and changes to, the photo library of the simulated device.
+//
+// Every class here may be used on any thread. A fetch reads the store once; its result is a snapshot, and so are
+// the objects in it. Two objects of one local identifier are equal.
+//
+// Where the platform's documentation leaves room, these stand-ins do the following:
+// - Hidden assets are left out of every fetch of assets unless the options include them. Two collections hold what
+//   the rule would always empty, so there it does not apply: the smart album of hidden assets and the trash bin.
+// - Assets in the trash appear in the trash bin only. They keep their albums, for when they are restored.
+// - Without sort descriptors assets come by creation date, oldest first; those of a user album in the album's
+//   order; albums in the user's order; smart albums by subtype.
+// - Predicates and sort descriptors accept the keys that the platform lists for the fetched class; another sort key
+//   raises NSInvalidArgumentException.
+// - Whether hidden assets are included makes no difference to which collections a fetch of collections returns.
+// - The trash bin is a smart album (subtype 1000000201), and a transient collection a regular album.
+// - Only regular albums (subtype 2) can be edited.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#import "UIKit/UIKit.h"
+
+typedef NS_ENUM(NSInteger, PHAssetMediaType) {
+    PHAssetMediaTypeUnknown = 0,
+    PHAssetMediaTypeImage = 1,
+    PHAssetMediaTypeVideo = 2,
+    PHAssetMediaTypeAudio = 3,
+};
+
+typedef NS_ENUM(NSInteger, PHAssetCollectionType) {
+    PHAssetCollectionTypeAlbum = 1,
+    PHAssetCollectionTypeSmartAlbum = 2,
+    PHAssetCollectionTypeMoment = 3,
+};
+
+typedef NS_ENUM(NSInteger, PHAssetCollectionSubtype) {
+    PHAssetCollectionSubtypeAlbumRegular = 2,
+    PHAssetCollectionSubtypeAlbumSyncedEvent = 3,
+    PHAssetCollectionSubtypeAlbumSyncedFaces = 4,
+    PHAssetCollectionSubtypeAlbumSyncedAlbum = 5,
+    PHAssetCollectionSubtypeAlbumImported = 6,
+    PHAssetCollectionSubtypeAlbumCloudShared = 101,
+    PHAssetCollectionSubtypeSmartAlbumPanoramas = 201,
+    PHAssetCollectionSubtypeSmartAlbumVideos = 202,
+    PHAssetCollectionSubtypeSmartAlbumFavorites = 203,
+    PHAssetCollectionSubtypeSmartAlbumTimelapses = 204,
+    PHAssetCollectionSubtypeSmartAlbumAllHidden = 205,
+    PHAssetCollectionSubtypeSmartAlbumRecentlyAdded = 206,
+    PHAssetCollectionSubtypeSmartAlbumBursts = 207,
+    PHAssetCollectionSubtypeSmartAlbumSlomoVideos = 208,
+    PHAssetCollectionSubtypeSmartAlbumUserLibrary = 209,
+    PHAssetCollectionSubtypeSmartAlbumSelfPortraits = 210,
+    PHAssetCollectionSubtypeSmartAlbumScreenshots = 211,
+    PHAssetCollectionSubtypeSmartAlbumDepthEffect = 212,
+    PHAssetCollectionSubtypeSmartAlbumLivePhotos = 213,
+    PHAssetCollectionSubtypeSmartAlbumAnimated = 214,
+    PHAssetCollectionSubtypeSmartAlbumLongExposures = 215,
+    PHAssetCollectionSubtypeAny = NSIntegerMax,
+};
+
+typedef NS_ENUM(NSInteger, PHCollectionListType) { PHCollectionListTypeFolder = 2 };
+typedef NS_ENUM(NSInteger, PHCollectionListSubtype) {
+    PHCollectionListSubtypeRegularFolder = 100,
+    PHCollectionListSubtypeAny = NSIntegerMax,
+};
+
+typedef NS_ENUM(NSInteger, PHCollectionEditOperation) {
+    PHCollectionEditOperationDeleteContent = 1,
+    PHCollectionEditOperationRemoveContent = 2,
+    PHCollectionEditOperationAddContent = 3,
+    PHCollectionEditOperationCreateContent = 4,
+    PHCollectionEditOperationRearrangeContent = 5,
+    PHCollectionEditOperationDelete = 6,
+    PHCollectionEditOperationRename = 7,
+};
+
+typedef NS_ENUM(NSInteger, PHImageContentMode) {
+    PHImageContentModeAspectFit = 0,
+    PHImageContentModeAspectFill = 1,
+};
+typedef NS_ENUM(NSInteger, PHImageRequestOptionsResizeMode) {
+    PHImageRequestOptionsResizeModeNone = 0,
+    PHImageRequestOptionsResizeModeFast = 1,
+    PHImageRequestOptionsResizeModeExact = 2,
+};
+typedef int32_t PHImageRequestID;
+
+/// Asks for the picture in its own size.
+extern const CGSize PHImageManagerMaximumSize;
+extern NSString* const PHImageResultIsDegradedKey;
+extern NSString* const PHImageResultRequestIDKey;
+extern NSString* const PHImageErrorKey;
+extern NSString* const PHPhotosErrorDomain;
+
+@class PHAsset, PHAssetCollection, PHCollectionList, PHFetchResult;
+
+/// Says which objects a fetch returns, and in which order.
+@interface PHFetchOptions : NSObject <NSCopying> {
+    NSPredicate* _predicate;
+    NSArray* _sortDescriptors;
+    BOOL _includeHiddenAssets;
+    NSUInteger _fetchLimit;
+}
+@property(nonatomic, retain) NSPredicate* predicate;
+@property(nonatomic, copy) NSArray* sortDescriptors;
+/// NO unless set.
+@property(nonatomic, assign) BOOL includeHiddenAssets;
+/// At most this many objects; 0, the default, means all.
+@property(nonatomic, assign) NSUInteger fetchLimit;
+@end
+
+/// What assets and collections have in common: an identifier that is theirs for ever.
+@interface PHObject : NSObject <NSCopying> {
+    NSString* _localIdentifier;
+}
+- (NSString*)localIdentifier;
+- (id)objectID;
+@end
+
+/// Stands for an object that a change creates, before the change is made.
+@interface PHObjectPlaceholder : PHObject
+@end
+
+/// A photo or a video.
+@interface PHAsset : PHObject {
+    const void* _record;
+}
++ (PHFetchResult*)fetchAssetsWithOptions:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchAssetsWithMediaType:(PHAssetMediaType)mediaType options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchAssetsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection options:(PHFetchOptions*)options;
+/// At most three assets that stand for the collection: the first of an album, the newest of a smart album or
+/// moment. nil when the collection shows none.
++ (PHFetchResult*)fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection options:(PHFetchOptions*)options;
+
+- (PHAssetMediaType)mediaType;
+- (NSUInteger)mediaSubtypes;
+- (NSUInteger)pixelWidth;
+- (NSUInteger)pixelHeight;
+- (NSDate*)creationDate;
+- (NSTimeInterval)duration;
+- (BOOL)isHidden;
+- (BOOL)isFavorite;
+@end
+
+/// What folders and albums have in common.
+@interface PHCollection : PHObject {
+    const void* _record;
+}
+/// The user's albums and folders outside every folder, in the user's order.
++ (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchCollectionsInCollectionList:(PHCollectionList*)list options:(PHFetchOptions*)options;
+/// nil for an untitled collection.
+- (NSString*)localizedTitle;
+- (BOOL)canContainAssets;
+- (BOOL)canContainCollections;
+- (BOOL)canPerformEditOperation:(PHCollectionEditOperation)operation;
+@end
+
+/// An album, a smart album or a moment.
+@interface PHAssetCollection : PHCollection {
+    NSArray* _transientIdentifiers;
+}
++ (PHFetchResult*)fetchAssetCollectionsWithType:(PHAssetCollectionType)type
+                                        subtype:(PHAssetCollectionSubtype)subtype
+                                        options:(PHFetchOptions*)options;
+/// In the order of the identifiers; unknown ones are left out.
++ (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
+/// Smart albums are never in the result.
++ (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
+                                              withType:(PHAssetCollectionType)type
+                                               options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchMomentsWithOptions:(PHFetchOptions*)options;
+/// A collection that is in no library: a list of assets, which is read afresh at every fetch, and a title.
++ (PHAssetCollection*)transientAssetCollectionWithAssets:(NSArray*)assets title:(NSString*)title;
++ (PHAssetCollection*)transientAssetCollectionWithAssetFetchResult:(PHFetchResult*)result title:(NSString*)title;
+
+- (NSString*)title;
+- (PHAssetCollectionType)assetCollectionType;
+- (PHAssetCollectionSubtype)assetCollectionSubtype;
+/// The visible assets of an album at the time of the call; NSNotFound for smart albums and moments.
+- (NSUInteger)estimatedAssetCount;
+- (NSDate*)startDate;
+- (NSDate*)endDate;
+- (BOOL)isTrashBin;
+@end
+
+/// A folder of albums and folders.
+@interface PHCollectionList : PHCollection {
+    NSArray* _transientCollections;
+}
++ (PHFetchResult*)fetchCollectionListsWithType:(PHCollectionListType)type
+                                       subtype:(PHCollectionListSubtype)subtype
+                                       options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchCollectionListsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
++ (PHCollectionList*)transientCollectionListWithCollections:(NSArray*)collections title:(NSString*)title;
++ (PHCollectionList*)transientCollectionListWithCollectionsFetchResult:(PHFetchResult*)result
+                                                                 title:(NSString*)title;
+- (PHCollectionListType)collectionListType;
+- (PHCollectionListSubtype)collectionListSubtype;
+/// The folder's content: read from the store at each call, or what a transient list was made of.
+- (NSArray*)collections;
+@end
+
+/// The ordered outcome of one fetch. Objects are made when they are first asked for.
+@interface PHFetchResult : NSObject <NSCopying, NSFastEnumeration> {
+    void* _objects;
+}
+- (NSUInteger)count;
+- (id)firstObject;
+- (id)lastObject;
+/// Raises NSRangeException for an index that is not below `count`.
+- (id)objectAtIndex:(NSUInteger)index;
+- (id)objectAtIndexedSubscript:(NSUInteger)index;
+- (NSArray*)objectsAtIndexes:(NSIndexSet*)indexes;
+- (BOOL)containsObject:(id)object;
+- (NSUInteger)indexOfObject:(id)object;
+- (void)enumerateObjectsUsingBlock:(void (^)(id object, NSUInteger index, BOOL* stop))block;
+- (NSUInteger)countOfAssetsWithMediaType:(PHAssetMediaType)mediaType;
+- (NSArray*)fetchedObjects;
+- (NSSet*)fetchedObjectIDsSet;
+@end
+
+/// The library that is changed. Change blocks and completion handlers run on one serial background queue: block,
+/// transaction, handler, then the next change.
+@interface PHPhotoLibrary : NSObject
++ (PHPhotoLibrary*)sharedPhotoLibrary;
+/// Everything that the block requests is done, or nothing. The handler may be nil.
+- (void)performChanges:(void (^)(void))changes completionHandler:(void (^)(BOOL success, NSError* error))handler;
+/// The same, waiting for the end; not from a change block or a completion handler.
+- (BOOL)performChangesAndWait:(void (^)(void))changes error:(NSError**)error;
+@end
+
+/// A request for one change. Making or using one outside its change block raises NSInternalInconsistencyException.
+@interface PHChangeRequest : NSObject {
+    void* _change;
+}
+@end
+
+@interface PHAssetCollectionChangeRequest : PHChangeRequest {
+    NSString* _collectionIdentifier;
+    PHObjectPlaceholder* _placeholder;
+}
++ (instancetype)creationRequestForAssetCollectionWithTitle:(NSString*)title;
+/// nil for a collection that cannot be edited.
++ (instancetype)changeRequestForAssetCollection:(PHAssetCollection*)collection;
++ (instancetype)changeRequestForAssetCollection:(PHAssetCollection*)collection assets:(PHFetchResult*)assets;
++ (void)deleteAssetCollections:(id<NSFastEnumeration>)collections;
+/// nil unless the request creates a collection.
+- (PHObjectPlaceholder*)placeholderForCreatedAssetCollection;
+- (NSString*)title;
+- (void)setTitle:(NSString*)title;
+/// Assets already in the album stay where they are.
+- (void)addAssets:(id<NSFastEnumeration>)assets;
+- (void)insertAssets:(id<NSFastEnumeration>)assets atIndexes:(NSIndexSet*)indexes;
+- (void)removeAssets:(id<NSFastEnumeration>)assets;
+@end
+
+@interface PHAssetChangeRequest : PHChangeRequest {
+    PHAsset* _asset;
+    PHObjectPlaceholder* _placeholder;
+}
+/// A new photo, taken now.
++ (instancetype)creationRequestForAssetFromImage:(UIImage*)image;
++ (instancetype)changeRequestForAsset:(PHAsset*)asset;
+/// Moves assets to the trash, and those that are there out of the library.
++ (void)deleteAssets:(id<NSFastEnumeration>)assets;
+- (PHObjectPlaceholder*)placeholderForCreatedAsset;
+- (void)setHidden:(BOOL)hidden;
+- (void)setFavorite:(BOOL)favorite;
+- (void)setCreationDate:(NSDate*)date;
+@end
+
+@interface PHImageRequestOptions : NSObject <NSCopying> {
+    PHImageRequestOptionsResizeMode _resizeMode;
+    BOOL _synchronous;
+}
+@property(nonatomic, assign) PHImageRequestOptionsResizeMode resizeMode;
+@property(nonatomic, assign, getter=isSynchronous) BOOL synchronous;
+@end
+
+/// Delivers the pictures of assets.
+@interface PHImageManager : NSObject
++ (PHImageManager*)defaultManager;
+/// The target size is in pixels. A synchronous request calls the handler before it returns, another one later on
+/// the main thread; either calls it once. The image lives no longer than the handler's call unless retained; it is
+/// nil when there is no such asset.
+- (PHImageRequestID)requestImageForAsset:(PHAsset*)asset
+                              targetSize:(CGSize)targetSize
+                             contentMode:(PHImageContentMode)contentMode
+                                 options:(PHImageRequestOptions*)options
+                           resultHandler:(void (^)(UIImage* image, NSDictionary* info))handler;
+- (void)cancelImageRequest:(PHImageRequestID)request;
+@end
