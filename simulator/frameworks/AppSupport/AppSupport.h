@@ -3,7 +3,17 @@
 
 #import <Foundation/Foundation.h>
 
-@interface CPDistributedMessagingCenter : NSObject
+namespace simulator {
+class MessageServer;
+}
+
+@interface CPDistributedMessagingCenter : NSObject {
+  @private
+    NSString* _name;
+    BOOL _unlocked;
+    NSMutableDictionary* _handlers;    // by message name
+    simulator::MessageServer* _server; // owned; null while it does not run
+}
 // One object per name and process.
 + (instancetype)centerNamed:(NSString*)name;
 

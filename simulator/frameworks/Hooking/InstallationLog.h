@@ -26,6 +26,7 @@ struct Installation {
 // loads.
 const std::vector<Installation>& installationLog();
 void clearInstallationLog();
+void logInstallation(Installation installation);
 
 // Between the two calls methods that the calling thread adds are logged as well.
 void beginLoggingAddedMethods();

@@ -1,0 +1,8 @@
+// How the sandbox is opened for one message centre of this process.
+#pragma once
+
+#import "AppSupport/AppSupport.h"
+
+@interface CPDistributedMessagingCenter (SimulatorUnlocking)
+- (void)simulatorUnlock;
+@end

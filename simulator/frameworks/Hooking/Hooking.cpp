@@ -1,0 +1,52 @@
+#include "device/conditions.h"
+#include "device/next_function.h"
+#include "frameworks/Hooking/InstallationLog.h"
+#include "frameworks/Hooking/LateOriginal.h"
+
+#include <objc/runtime.h>
+
+namespace simulator {
+namespace {
+
+bool isOwnMethod(Class cls, Method method) {
+    return class_getSuperclass(cls) == Nil ||
+           class_getInstanceMethod(class_getSuperclass(cls), method_getName(method)) != method;
+}
+
+void put(Class cls, Method method, bool own, IMP replacement) {
+    if (own) {
+        method_setImplementation(method, replacement);
+        return;
+    }
+    const auto add = nextFunction<"class_addMethod", decltype(class_addMethod)>();
+    add(cls, method_getName(method), replacement, method_getTypeEncoding(method));
+}
+
+void install(Class cls, Method method, IMP replacement, IMP* slot) {
+    const HookingStyle style = currentConditions()->hooking;
+    const bool own = isOwnMethod(cls, method);
+    const IMP original = !own && style.inheritedResolvedLate
+                             ? lateOriginal(class_getSuperclass(cls), method_getName(method))
+                             : method_getImplementation(method);
+    if (slot != nullptr && style.slotWrittenFirst) *slot = original;
+    put(cls, method, own, replacement);
+    if (slot != nullptr && !style.slotWrittenFirst) *slot = original;
+}
+
+} // namespace
+} // namespace simulator
+
+extern "C" void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* slot) {
+    Method method = cls == Nil ? nullptr : class_getInstanceMethod(cls, selector);
+    if (method != nullptr) simulator::install(cls, method, replacement, slot);
+    simulator::logInstallation({
+        .kind = simulator::Installation::Kind::replaced,
+        .className = cls == Nil ? "" : class_getName(cls),
+        .methodKind = cls != Nil && class_isMetaClass(cls) ? '+' : '-',
+        .selector = sel_getName(selector),
+        .encoding = method == nullptr ? "" : method_getTypeEncoding(method),
+        .implementation = reinterpret_cast<const void*>(replacement),
+        .slot = slot,
+        .installed = method != nullptr,
+    });
+}

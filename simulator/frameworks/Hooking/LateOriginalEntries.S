@@ -1,0 +1,122 @@
+# Entry points that find out where to go only when they are called. Each loads its number; the common part keeps
+# every register that may carry an argument, asks for the implementation and jumps there, so that calls of any
+# signature pass through untouched.
+    .globl lateOriginalEntries
+    .globl lateOriginalEntrySize
+
+#if defined(__x86_64__)
+
+    .text
+    .balign 16
+lateOriginalEntries:
+    .set entry, 0
+    .rept 256
+    .balign 16
+    movl $entry, %r11d
+    jmp lateOriginalCommon
+    .set entry, entry + 1
+    .endr
+
+lateOriginalCommon:
+    .cfi_startproc
+    pushq %rbp
+    .cfi_def_cfa_offset 16
+    .cfi_offset %rbp, -16
+    movq %rsp, %rbp
+    .cfi_def_cfa_register %rbp
+    subq $192, %rsp
+    movq %rdi, (%rsp)
+    movq %rsi, 8(%rsp)
+    movq %rdx, 16(%rsp)
+    movq %rcx, 24(%rsp)
+    movq %r8, 32(%rsp)
+    movq %r9, 40(%rsp)
+    movq %rax, 48(%rsp)
+    movups %xmm0, 64(%rsp)
+    movups %xmm1, 80(%rsp)
+    movups %xmm2, 96(%rsp)
+    movups %xmm3, 112(%rsp)
+    movups %xmm4, 128(%rsp)
+    movups %xmm5, 144(%rsp)
+    movups %xmm6, 160(%rsp)
+    movups %xmm7, 176(%rsp)
+    movl %r11d, %edi
+    call simulatorResolveLateOriginal@PLT
+    movq %rax, %r11
+    movq (%rsp), %rdi
+    movq 8(%rsp), %rsi
+    movq 16(%rsp), %rdx
+    movq 24(%rsp), %rcx
+    movq 32(%rsp), %r8
+    movq 40(%rsp), %r9
+    movq 48(%rsp), %rax
+    movups 64(%rsp), %xmm0
+    movups 80(%rsp), %xmm1
+    movups 96(%rsp), %xmm2
+    movups 112(%rsp), %xmm3
+    movups 128(%rsp), %xmm4
+    movups 144(%rsp), %xmm5
+    movups 160(%rsp), %xmm6
+    movups 176(%rsp), %xmm7
+    leave
+    .cfi_def_cfa %rsp, 8
+    jmp *%r11
+    .cfi_endproc
+
+#elif defined(__aarch64__)
+
+    .text
+    .balign 16
+lateOriginalEntries:
+    .set entry, 0
+    .rept 256
+    .balign 16
+    mov w17, #entry
+    b lateOriginalCommon
+    .set entry, entry + 1
+    .endr
+
+lateOriginalCommon:
+    .cfi_startproc
+    stp x29, x30, [sp, #-224]!
+    .cfi_def_cfa_offset 224
+    .cfi_offset x29, -224
+    .cfi_offset x30, -216
+    mov x29, sp
+    stp x0, x1, [sp, #16]
+    stp x2, x3, [sp, #32]
+    stp x4, x5, [sp, #48]
+    stp x6, x7, [sp, #64]
+    str x8, [sp, #80]
+    stp q0, q1, [sp, #96]
+    stp q2, q3, [sp, #128]
+    stp q4, q5, [sp, #160]
+    stp q6, q7, [sp, #192]
+    mov w0, w17
+    bl simulatorResolveLateOriginal
+    mov x17, x0
+    ldp x0, x1, [sp, #16]
+    ldp x2, x3, [sp, #32]
+    ldp x4, x5, [sp, #48]
+    ldp x6, x7, [sp, #64]
+    ldr x8, [sp, #80]
+    ldp q0, q1, [sp, #96]
+    ldp q2, q3, [sp, #128]
+    ldp q4, q5, [sp, #160]
+    ldp q6, q7, [sp, #192]
+    ldp x29, x30, [sp], #224
+    .cfi_def_cfa_offset 0
+    .cfi_restore x29
+    .cfi_restore x30
+    br x17
+    .cfi_endproc
+
+#else
+#error "no entry points for this processor"
+#endif
+
+    .section .rodata
+    .balign 8
+lateOriginalEntrySize:
+    .quad 16
+    .section .note.GNU-stack, "", %progbits
