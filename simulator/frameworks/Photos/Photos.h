@@ -1,24 +1,31 @@
 // The Photos framework: fetches from, and changes to, the photo library of the simulated device.
 //
-// Every class here may be used on any thread. A fetch reads the store once; its result is a snapshot, and so are
-// the objects in it. Two objects of one local identifier are equal.
+// Every class here may be used on any thread. A fetch reads the store once; its result is a snapshot, and so
+// are the objects in it. Two objects of one local identifier are equal.
 //
 // Where the platform's documentation leaves room, these stand-ins do the following:
-// - Hidden assets are left out of every fetch of assets unless the options include them. Two collections hold what
-//   the rule would always empty, so there it does not apply: the smart album of hidden assets and the trash bin.
+// - Hidden assets are left out of every fetch of assets unless the options include them. Two collections
+//   hold what the rule would always empty, so there it does not apply: the smart album of hidden assets and
+//   the trash bin.
 // - Assets in the trash appear in the trash bin only. They keep their albums, for when they are restored.
-// - Without sort descriptors assets come by creation date, oldest first; those of a user album in the album's
-//   order; albums in the user's order; smart albums by subtype.
-// - Predicates and sort descriptors accept the keys that the platform lists for the fetched class; another sort key
-//   raises NSInvalidArgumentException.
-// - Whether hidden assets are included makes no difference to which collections a fetch of collections returns.
+// - Without sort descriptors assets come by creation date, oldest first; those of a user album in the
+//   album's order; albums in the user's order; smart albums by subtype.
+// - Sort descriptors accept the keys that the platform lists for the fetched class; others raise
+//   NSInvalidArgumentException. Predicates are evaluated by key-value coding.
+// - Including hidden assets makes no difference to which collections a fetch of collections returns.
 // - The trash bin is a smart album (subtype 1000000201), and a transient collection a regular album.
 // - Only regular albums (subtype 2) can be edited.
 #pragma once
 
-#import <Foundation/Foundation.h>
+#import "CoreGraphics/CoreGraphics.h"
 
-#import "UIKit/UIKit.h"
+namespace simulator {
+struct Asset;
+struct Collection;
+class FetchedObjects;
+} // namespace simulator
+
+@class UIImage;
 
 typedef NS_ENUM(NSInteger, PHAssetMediaType) {
     PHAssetMediaTypeUnknown = 0,
@@ -101,12 +108,12 @@ extern NSString* const PHPhotosErrorDomain;
     BOOL _includeHiddenAssets;
     NSUInteger _fetchLimit;
 }
-@property(nonatomic, retain) NSPredicate* predicate;
-@property(nonatomic, copy) NSArray* sortDescriptors;
+@property (nonatomic, retain) NSPredicate* predicate;
+@property (nonatomic, copy) NSArray* sortDescriptors;
 /// NO unless set.
-@property(nonatomic, assign) BOOL includeHiddenAssets;
+@property (nonatomic, assign) BOOL includeHiddenAssets;
 /// At most this many objects; 0, the default, means all.
-@property(nonatomic, assign) NSUInteger fetchLimit;
+@property (nonatomic, assign) NSUInteger fetchLimit;
 @end
 
 /// What assets and collections have in common: an identifier that is theirs for ever.
@@ -123,15 +130,17 @@ extern NSString* const PHPhotosErrorDomain;
 
 /// A photo or a video.
 @interface PHAsset : PHObject {
-    const void* _record;
+    const simulator::Asset* _record;
 }
 + (PHFetchResult*)fetchAssetsWithOptions:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetsWithMediaType:(PHAssetMediaType)mediaType options:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
-+ (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection
+                                       options:(PHFetchOptions*)options;
 /// At most three assets that stand for the collection: the first of an album, the newest of a smart album or
 /// moment. nil when the collection shows none.
-+ (PHFetchResult*)fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection
+                                          options:(PHFetchOptions*)options;
 
 - (PHAssetMediaType)mediaType;
 - (NSUInteger)mediaSubtypes;
@@ -145,7 +154,7 @@ extern NSString* const PHPhotosErrorDomain;
 
 /// What folders and albums have in common.
 @interface PHCollection : PHObject {
-    const void* _record;
+    const simulator::Collection* _record;
 }
 /// The user's albums and folders outside every folder, in the user's order.
 + (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options;
@@ -165,7 +174,8 @@ extern NSString* const PHPhotosErrorDomain;
                                         subtype:(PHAssetCollectionSubtype)subtype
                                         options:(PHFetchOptions*)options;
 /// In the order of the identifiers; unknown ones are left out.
-+ (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers
+                                                    options:(PHFetchOptions*)options;
 /// Smart albums are never in the result.
 + (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
                                               withType:(PHAssetCollectionType)type
@@ -173,7 +183,8 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHFetchResult*)fetchMomentsWithOptions:(PHFetchOptions*)options;
 /// A collection that is in no library: a list of assets, which is read afresh at every fetch, and a title.
 + (PHAssetCollection*)transientAssetCollectionWithAssets:(NSArray*)assets title:(NSString*)title;
-+ (PHAssetCollection*)transientAssetCollectionWithAssetFetchResult:(PHFetchResult*)result title:(NSString*)title;
++ (PHAssetCollection*)transientAssetCollectionWithAssetFetchResult:(PHFetchResult*)result
+                                                             title:(NSString*)title;
 
 - (NSString*)title;
 - (PHAssetCollectionType)assetCollectionType;
@@ -192,7 +203,8 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHFetchResult*)fetchCollectionListsWithType:(PHCollectionListType)type
                                        subtype:(PHCollectionListSubtype)subtype
                                        options:(PHFetchOptions*)options;
-+ (PHFetchResult*)fetchCollectionListsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchCollectionListsWithLocalIdentifiers:(NSArray*)identifiers
+                                                   options:(PHFetchOptions*)options;
 + (PHCollectionList*)transientCollectionListWithCollections:(NSArray*)collections title:(NSString*)title;
 + (PHCollectionList*)transientCollectionListWithCollectionsFetchResult:(PHFetchResult*)result
                                                                  title:(NSString*)title;
@@ -204,7 +216,7 @@ extern NSString* const PHPhotosErrorDomain;
 
 /// The ordered outcome of one fetch. Objects are made when they are first asked for.
 @interface PHFetchResult : NSObject <NSCopying, NSFastEnumeration> {
-    void* _objects;
+    simulator::FetchedObjects* _objects;
 }
 - (NSUInteger)count;
 - (id)firstObject;
@@ -221,19 +233,21 @@ extern NSString* const PHPhotosErrorDomain;
 - (NSSet*)fetchedObjectIDsSet;
 @end
 
-/// The library that is changed. Change blocks and completion handlers run on one serial background queue: block,
-/// transaction, handler, then the next change.
+/// The library that is changed. Change blocks and completion handlers run on one serial background queue:
+/// block, transaction, handler, then the next change.
 @interface PHPhotoLibrary : NSObject
 + (PHPhotoLibrary*)sharedPhotoLibrary;
 /// Everything that the block requests is done, or nothing. The handler may be nil.
-- (void)performChanges:(void (^)(void))changes completionHandler:(void (^)(BOOL success, NSError* error))handler;
+- (void)performChanges:(void (^)(void))changes
+     completionHandler:(void (^)(BOOL success, NSError* error))handler;
 /// The same, waiting for the end; not from a change block or a completion handler.
 - (BOOL)performChangesAndWait:(void (^)(void))changes error:(NSError**)error;
 @end
 
-/// A request for one change. Making or using one outside its change block raises NSInternalInconsistencyException.
+/// A request for one change. Making or using one outside its change block raises
+/// NSInternalInconsistencyException.
 @interface PHChangeRequest : NSObject {
-    void* _change;
+    uint64_t _change;
 }
 @end
 
@@ -248,7 +262,6 @@ extern NSString* const PHPhotosErrorDomain;
 + (void)deleteAssetCollections:(id<NSFastEnumeration>)collections;
 /// nil unless the request creates a collection.
 - (PHObjectPlaceholder*)placeholderForCreatedAssetCollection;
-- (NSString*)title;
 - (void)setTitle:(NSString*)title;
 /// Assets already in the album stay where they are.
 - (void)addAssets:(id<NSFastEnumeration>)assets;
@@ -257,7 +270,7 @@ extern NSString* const PHPhotosErrorDomain;
 @end
 
 @interface PHAssetChangeRequest : PHChangeRequest {
-    PHAsset* _asset;
+    NSString* _assetIdentifier;
     PHObjectPlaceholder* _placeholder;
 }
 /// A new photo, taken now.
@@ -275,16 +288,16 @@ extern NSString* const PHPhotosErrorDomain;
     PHImageRequestOptionsResizeMode _resizeMode;
     BOOL _synchronous;
 }
-@property(nonatomic, assign) PHImageRequestOptionsResizeMode resizeMode;
-@property(nonatomic, assign, getter=isSynchronous) BOOL synchronous;
+@property (nonatomic, assign) PHImageRequestOptionsResizeMode resizeMode;
+@property (nonatomic, assign, getter=isSynchronous) BOOL synchronous;
 @end
 
 /// Delivers the pictures of assets.
 @interface PHImageManager : NSObject
 + (PHImageManager*)defaultManager;
-/// The target size is in pixels. A synchronous request calls the handler before it returns, another one later on
-/// the main thread; either calls it once. The image lives no longer than the handler's call unless retained; it is
-/// nil when there is no such asset.
+/// The target size is in pixels. A synchronous request calls the handler before it returns, another one later
+/// on the main thread; either calls it once. The image lives no longer than the handler's call unless
+/// retained; it is nil when there is no such asset.
 - (PHImageRequestID)requestImageForAsset:(PHAsset*)asset
                               targetSize:(CGSize)targetSize
                              contentMode:(PHImageContentMode)contentMode

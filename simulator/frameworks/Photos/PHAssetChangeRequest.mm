@@ -1,0 +1,73 @@
+#import "Photos/PHChangeRequest+Making.h"
+
+#import "UIKit/UIKit.h"
+
+#include <functional>
+
+using simulator::Asset;
+using simulator::Change;
+
+@implementation PHAssetChangeRequest
+
+- (instancetype)initWithAssetIdentifier:(NSString*)identifier {
+    if ((self = [super initInsideChangeBlock])) _assetIdentifier = [identifier copy];
+    return self;
+}
+
++ (instancetype)creationRequestForAssetFromImage:(UIImage*)image {
+    Change& change = [self currentChange];
+    NSData* png = UIImagePNGRepresentation(image);
+    if (!png)
+        @throw [NSException exceptionWithName:NSInvalidArgumentException
+                                       reason:@"no image to store"
+                                     userInfo:nil];
+    Asset asset;
+    asset.created = [NSDate timeIntervalSinceReferenceDate];
+    asset.width = static_cast<std::int64_t>(image.size.width * image.scale);
+    asset.height = static_cast<std::int64_t>(image.size.height * image.scale);
+    std::string bytes(static_cast<const char*>([png bytes]), [png length]);
+    NSString* identifier = simulator::stringOf(change.addAsset(std::move(asset), std::move(bytes)));
+    PHAssetChangeRequest* request = [[[self alloc] initWithAssetIdentifier:identifier] autorelease];
+    request->_placeholder = [[PHObjectPlaceholder alloc] initWithLocalIdentifier:identifier];
+    return request;
+}
+
++ (instancetype)changeRequestForAsset:(PHAsset*)asset {
+    [self currentChange];
+    if (!asset) return nil;
+    return [[[self alloc] initWithAssetIdentifier:[asset localIdentifier]] autorelease];
+}
+
++ (void)deleteAssets:(id<NSFastEnumeration>)assets {
+    Change& change = [self currentChange];
+    for (std::string& identifier : simulator::identifiersOfObjects(assets))
+        change.add(Change::DeleteAsset{std::move(identifier)});
+}
+
+- (void)dealloc {
+    [_assetIdentifier release];
+    [_placeholder release];
+    [super dealloc];
+}
+
+- (PHObjectPlaceholder*)placeholderForCreatedAsset {
+    [self change];
+    return _placeholder;
+}
+
+- (void)setHidden:(BOOL)hidden {
+    [self change].add(
+        Change::EditAsset{.asset = simulator::textOf(_assetIdentifier), .hidden = hidden == YES});
+}
+
+- (void)setFavorite:(BOOL)favorite {
+    [self change].add(
+        Change::EditAsset{.asset = simulator::textOf(_assetIdentifier), .favorite = favorite == YES});
+}
+
+- (void)setCreationDate:(NSDate*)date {
+    [self change].add(Change::EditAsset{.asset = simulator::textOf(_assetIdentifier),
+                                        .created = [date timeIntervalSinceReferenceDate]});
+}
+
+@end
