@@ -44,6 +44,12 @@ using simulator::Change;
         change.add(Change::DeleteAsset{std::move(identifier)});
 }
 
++ (void)undeleteAssets:(id<NSFastEnumeration>)assets {
+    Change& change = [self currentChange];
+    for (std::string& identifier : simulator::identifiersOfObjects(assets))
+        change.add(Change::EditAsset{.asset = std::move(identifier), .trashed = false});
+}
+
 - (void)dealloc {
     [_assetIdentifier release];
     [_placeholder release];

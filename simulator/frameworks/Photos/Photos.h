@@ -278,6 +278,8 @@ extern NSString* const PHPhotosErrorDomain;
 + (instancetype)changeRequestForAsset:(PHAsset*)asset;
 /// Moves assets to the trash, and those that are there out of the library.
 + (void)deleteAssets:(id<NSFastEnumeration>)assets;
+/// Takes assets out of the trash.
++ (void)undeleteAssets:(id<NSFastEnumeration>)assets;
 - (PHObjectPlaceholder*)placeholderForCreatedAsset;
 - (void)setHidden:(BOOL)hidden;
 - (void)setFavorite:(BOOL)favorite;
