@@ -14,22 +14,36 @@ using simulator::Change;
     return self;
 }
 
++ (instancetype)creationRequestForAsset:(Asset)asset picture:(std::string)png {
+    asset.created = [NSDate timeIntervalSinceReferenceDate];
+    NSString* identifier =
+        simulator::stringOf([self currentChange].addAsset(std::move(asset), std::move(png)));
+    PHAssetChangeRequest* request = [[[self alloc] initWithAssetIdentifier:identifier] autorelease];
+    request->_placeholder = [[PHObjectPlaceholder alloc] initWithLocalIdentifier:identifier];
+    return request;
+}
+
 + (instancetype)creationRequestForAssetFromImage:(UIImage*)image {
-    Change& change = [self currentChange];
     NSData* png = UIImagePNGRepresentation(image);
     if (!png)
         @throw [NSException exceptionWithName:NSInvalidArgumentException
                                        reason:@"no image to store"
                                      userInfo:nil];
     Asset asset;
-    asset.created = [NSDate timeIntervalSinceReferenceDate];
     asset.width = static_cast<std::int64_t>(image.size.width * image.scale);
     asset.height = static_cast<std::int64_t>(image.size.height * image.scale);
     std::string bytes(static_cast<const char*>([png bytes]), [png length]);
-    NSString* identifier = simulator::stringOf(change.addAsset(std::move(asset), std::move(bytes)));
-    PHAssetChangeRequest* request = [[[self alloc] initWithAssetIdentifier:identifier] autorelease];
-    request->_placeholder = [[PHObjectPlaceholder alloc] initWithLocalIdentifier:identifier];
-    return request;
+    return [self creationRequestForAsset:std::move(asset) picture:std::move(bytes)];
+}
+
++ (instancetype)creationRequestForAssetFromVideoAtFileURL:(NSURL*)file {
+    [self currentChange];
+    if (![[NSFileManager defaultManager] fileExistsAtPath:[file path]]) return nil;
+    Asset asset;
+    asset.mediaType = simulator::MediaType::video;
+    asset.width = 1920;
+    asset.height = 1080;
+    return [self creationRequestForAsset:std::move(asset) picture:{}];
 }
 
 + (instancetype)changeRequestForAsset:(PHAsset*)asset {

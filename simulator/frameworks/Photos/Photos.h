@@ -275,6 +275,8 @@ extern NSString* const PHPhotosErrorDomain;
 }
 /// A new photo, taken now.
 + (instancetype)creationRequestForAssetFromImage:(UIImage*)image;
+/// A new video, taken now. nil when there is no such file.
++ (instancetype)creationRequestForAssetFromVideoAtFileURL:(NSURL*)file;
 + (instancetype)changeRequestForAsset:(PHAsset*)asset;
 /// Moves assets to the trash, and those that are there out of the library.
 + (void)deleteAssets:(id<NSFastEnumeration>)assets;
