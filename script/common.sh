@@ -2,8 +2,12 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-jobs=$(nproc)
 sysroot=build/sysroot-arm64
+presets=(sanitize release tsan arm64 ios)
+
+if command -v ccache >/dev/null; then
+    export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache CMAKE_OBJCXX_COMPILER_LAUNCHER=ccache
+fi
 
 say() { printf '%s\n' "$*"; }
 fail() {
@@ -13,3 +17,21 @@ fail() {
 
 # The package names of a list file, without its comments.
 packagesOf() { grep -v '^#' "$1"; }
+
+requirePreset() {
+    local known
+    for known in "${presets[@]}"; do [[ $1 == "$known" ]] && return; done
+    fail "no such preset: $1 (there are: ${presets[*]})"
+}
+
+# Configures and builds one preset; what the tools say is shown only when something goes wrong.
+buildPreset() {
+    local preset=$1 log=build/$1.log
+    mkdir -p build
+    say "Building $preset"
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" -- -k 0; } >"$log" 2>&1; then
+        grep -E 'error|Error|FAILED' -A 6 "$log" | tail -n 60 >&2 || tail -n 60 "$log" >&2
+        say "Building $preset failed; everything the tools said is in $log" >&2
+        return 1
+    fi
+}
