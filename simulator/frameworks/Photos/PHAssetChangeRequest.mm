@@ -38,7 +38,7 @@ using simulator::Change;
 
 + (instancetype)creationRequestForAssetFromVideoAtFileURL:(NSURL*)file {
     [self currentChange];
-    if (![[NSFileManager defaultManager] fileExistsAtPath:[file path]]) return nil;
+    if (!file) return nil;
     Asset asset;
     asset.mediaType = simulator::MediaType::video;
     asset.width = 1920;
