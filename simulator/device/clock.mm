@@ -1,9 +1,9 @@
 #include "device/clock.h"
 
 #include "device/threads.h"
+#include "frameworks/ObjectiveC/Replacement.h"
 
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
 #include <algorithm>
 #include <atomic>
@@ -93,10 +93,8 @@ NSTimer* scheduledTimer(Class timerClass, SEL command, NSTimeInterval interval, 
 }
 
 __attribute__((constructor)) void takeOverScheduledTimers() {
-    Method method = class_getClassMethod([NSTimer class], @selector
-                                         (scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:));
-    scheduleOnRunLoop = reinterpret_cast<ScheduleTimer>(
-        method_setImplementation(method, reinterpret_cast<IMP>(scheduledTimer)));
+    scheduleOnRunLoop = replaceMethod(
+        "NSTimer", '+', "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:", scheduledTimer);
 }
 
 } // namespace

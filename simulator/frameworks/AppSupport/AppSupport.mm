@@ -4,6 +4,7 @@
 
 #include "device/message_centres.h"
 #include "device/threads.h"
+#include "frameworks/Foundation/PropertyLists.h"
 
 #include <memory>
 #include <mutex>
@@ -32,8 +33,7 @@ NSDictionary* decoded(const std::string& message) {
 }
 
 NSData* encoded(NSDictionary* message) {
-    if (![NSPropertyListSerialization propertyList:message isValidForFormat:NSPropertyListBinaryFormat_v1_0])
-        return nil;
+    if (!simulator::isPropertyList(message)) return nil;
     NSString* problem = nil;
     return [NSPropertyListSerialization dataFromPropertyList:message
                                                       format:NSPropertyListBinaryFormat_v1_0

@@ -1,13 +1,13 @@
 // Where GNUstep's Foundation differs from the device's.
-#import <Foundation/Foundation.h>
-#include <objc/runtime.h>
-
 #include "device/process.h"
+#include "frameworks/ObjectiveC/Replacement.h"
+
+#import <Foundation/Foundation.h>
+#import <GNUstepBase/NSProcessInfo+GNUstepBase.h>
 
 namespace {
 
-using BundleIdentifier = NSString* (*)(id, SEL);
-BundleIdentifier originalBundleIdentifier;
+NSString* (*originalBundleIdentifier)(id, SEL);
 
 NSString* bundleIdentifier(id self, SEL command) {
     const std::string host = simulator::hostBundleIdentifier();
@@ -15,18 +15,18 @@ NSString* bundleIdentifier(id self, SEL command) {
     return [NSString stringWithUTF8String:host.c_str()];
 }
 
-template <class Function> Function replace(Class cls, SEL selector, Function replacement) {
-    Method method = class_getInstanceMethod(cls, selector);
-    return reinterpret_cast<Function>(method_setImplementation(method, reinterpret_cast<IMP>(replacement)));
-}
+} // namespace
 
-__attribute__((constructor)) void behaveAsOnTheDevice() {
+@interface SimulatorFoundation : NSObject
+@end
+
+@implementation SimulatorFoundation
++ (void)load {
     @autoreleasepool {
-        originalBundleIdentifier = replace([NSBundle class], @selector(bundleIdentifier), bundleIdentifier);
-        // The device writes property lists as XML, not in the old style.
-        [[NSUserDefaults standardUserDefaults]
-            registerDefaults:[NSDictionary dictionaryWithObject:@"YES" forKey:@"GSMacOSXCompatible"]];
+        originalBundleIdentifier =
+            simulator::replaceMethod("NSBundle", '-', "bundleIdentifier", bundleIdentifier);
+        // A damaged file is no news on the device.
+        [[[NSProcessInfo processInfo] debugSet] addObject:@"NoWarn"];
     }
 }
-
-} // namespace
+@end

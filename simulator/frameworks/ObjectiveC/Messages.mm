@@ -1,6 +1,7 @@
 #include "device/next_function.h"
 #include "frameworks/ObjectiveC/ObjectiveC.h"
 #include "frameworks/ObjectiveC/Presence.h"
+#include "frameworks/ObjectiveC/Replacement.h"
 
 #import <Foundation/Foundation.h>
 #include <objc/message.h>
@@ -27,8 +28,7 @@ bool forwards(Class cls) {
 }
 
 __attribute__((constructor)) void nameClassAndSelectorInTheException() {
-    Method method = class_getInstanceMethod([NSObject class], @selector(doesNotRecognizeSelector:));
-    method_setImplementation(method, reinterpret_cast<IMP>(raiseUnrecognised));
+    replaceMethod("NSObject", '-', "doesNotRecognizeSelector:", raiseUnrecognised);
 }
 
 } // namespace

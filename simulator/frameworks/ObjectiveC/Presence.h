@@ -7,7 +7,8 @@ namespace simulator {
 
 // Whether this release knows the method, whatever the stand-ins implement. The metaclass stands for class
 // methods. Methods without a row in the signature table are known.
-bool methodIsPresent(Class cls, SEL selector);
+// C linkage, because C++ and Objective-C++ spell the type SEL differently in the names of functions.
+extern "C" bool methodIsPresent(Class cls, SEL selector);
 
 // A method that was added at run time exists from then on, although no release has it.
 void noteAddedMethod(Class cls, SEL selector);

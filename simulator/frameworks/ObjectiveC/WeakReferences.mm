@@ -1,4 +1,5 @@
 #include "frameworks/ObjectiveC/ObjectiveC.h"
+#include "frameworks/ObjectiveC/Replacement.h"
 
 #import <Foundation/Foundation.h>
 
@@ -87,8 +88,7 @@ void releaseObject(id self, SEL) {
 }
 
 __attribute__((constructor)) void takeOverRelease() {
-    method_setImplementation(class_getInstanceMethod([NSObject class], @selector(release)),
-                             reinterpret_cast<IMP>(releaseObject));
+    simulator::replaceMethod("NSObject", '-', "release", releaseObject);
 }
 
 } // namespace

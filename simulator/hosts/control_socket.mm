@@ -1,0 +1,72 @@
+#include "hosts/control_socket.h"
+
+#include "device/local_sockets.h"
+#include "device/threads.h"
+#include "hosts/host.h"
+
+#import <Foundation/Foundation.h>
+
+#include <sys/socket.h>
+
+#include <exception>
+#include <future>
+#include <memory>
+#include <thread>
+
+namespace simulator {
+namespace {
+
+using nlohmann::json;
+
+json answered(const json& request) {
+    @try {
+        return performVerb(request);
+    } @catch (NSException* exception) {
+        return {
+            {"error", std::string([[exception name] UTF8String]) + ": " + [[exception reason] UTF8String]}};
+    }
+}
+
+json answer(const std::string& line) {
+    try {
+        return answered(json::parse(line));
+    } catch (const std::exception& error) {
+        return {{"error", error.what()}};
+    }
+}
+
+std::string answerOnMainThread(const std::string& line) {
+    auto answered = std::make_shared<std::promise<std::string>>();
+    performOnMainThread([answered, line] {
+        answered->set_value(answer(line).dump(-1, ' ', false, json::error_handler_t::replace));
+    });
+    return answered->get_future().get();
+}
+
+void serve(const Descriptor& client) {
+    std::string pending;
+    while (const auto line = receiveLine(client, pending))
+        if (!sendAll(client, answerOnMainThread(*line) + "\n")) return;
+}
+
+} // namespace
+
+void serveControlSocket(const std::filesystem::path& path) {
+    auto socket = std::make_shared<Descriptor>(listenOn(path, SocketKind::stream));
+    std::thread([socket] {
+        for (;;) {
+            const int client = accept4(socket->number(), nullptr, nullptr, SOCK_CLOEXEC);
+            if (client >= 0)
+                std::thread([connection = std::make_shared<Descriptor>(client)] {
+                    serve(*connection);
+                }).detach();
+        }
+    }).detach();
+}
+
+std::filesystem::path controlSocketOf(const std::filesystem::path& device,
+                                      const std::string& bundleIdentifier) {
+    return device / "run" / (fileNameFor(bundleIdentifier) + ".sock");
+}
+
+} // namespace simulator

@@ -1,0 +1,88 @@
+#include "hosts/host.h"
+
+#include "device/clock.h"
+#include "device/device.h"
+#include "device/process.h"
+#include "device/releases.h"
+#include "device/root.h"
+#include "device/threads.h"
+#include "frameworks/CoreFoundation/CoreFoundation.h"
+#include "hosts/registry.h"
+#include "loader/loader.h"
+
+#import <Foundation/Foundation.h>
+
+#include <stdexcept>
+#include <variant>
+
+namespace simulator {
+namespace {
+
+void applyConditions() {
+    const auto conditions = currentConditions();
+    setCurrentRelease(conditions->release);
+    kCFCoreFoundationVersionNumber =
+        conditions->coreFoundationVersion.value_or(coreFoundationVersion(conditions->release));
+    if (conditions->manualClock) clock().useManualTime();
+}
+
+void load(const std::filesystem::path& library) {
+    beginLoggingAddedMethods();
+    const LoadResult result = loadLibrary(library.string());
+    endLoggingAddedMethods();
+    if (const auto* error = std::get_if<LoadError>(&result)) throw std::runtime_error(error->message);
+}
+
+// Runs the main run loop once, for at most `seconds`.
+void runOnce(double seconds) {
+    @autoreleasepool {
+        NSDate* end = [NSDate dateWithTimeIntervalSinceNow:seconds];
+        if (![[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:end])
+            [NSThread sleepUntilDate:end]; // nothing to wait for yet
+    }
+}
+
+// A run loop without anything to listen to would not wait.
+void keepMainRunLoopAlive() {
+    [[NSRunLoop currentRunLoop] addPort:[NSPort port] forMode:NSDefaultRunLoopMode];
+}
+
+} // namespace
+
+Host::Host(const HostOptions& options) {
+    @autoreleasepool {
+        mountDevice(Device::open(options.device).folder());
+        setHostBundleIdentifier(options.bundleIdentifier);
+        applyConditions();
+        const Application application = applicationFor(options.bundleIdentifier);
+        if (!application.frameworks.empty()) setLoadedFrameworks(application.frameworks);
+        if (application.worksInRootFolder) std::filesystem::current_path(mountedDevice() / "root");
+        keepMainRunLoopAlive();
+        if (options.beforeLoading) options.beforeLoading();
+        if (options.library) load(*options.library);
+        if (application.start) runAsEvent(application.start);
+    }
+}
+
+Host::~Host() { mountDevice({}); }
+
+const std::vector<Installation>& Host::installations() const { return installationLog(); }
+
+bool Host::runUntil(const std::function<bool()>& condition, double timeout) {
+    NSDate* end = [[NSDate alloc] initWithTimeIntervalSinceNow:timeout];
+    bool holds = condition();
+    while (!holds && [end timeIntervalSinceNow] > 0) {
+        runOnce(0.01);
+        holds = condition();
+    }
+    [end release];
+    return holds;
+}
+
+void Host::spin(double seconds) {
+    runUntil([] { return false; }, seconds);
+}
+
+void Host::drain() { spin(0.02); }
+
+} // namespace simulator
