@@ -1,8 +1,17 @@
-/// Points, sizes and rectangles: the plain structures that every view measures itself in, in points of the
-/// screen.
+// Points, sizes and rectangles: the plain structures that every view measures itself in, in points of the
+// screen.
 #pragma once
 
+#ifdef __OBJC__
 #import <Foundation/Foundation.h>
+#else
+#include <cfloat>
+#define CGFLOAT_DEFINED 1
+#define CGFLOAT_IS_DBL 1
+#define CGFLOAT_MIN DBL_MIN
+#define CGFLOAT_MAX DBL_MAX
+typedef double CGFloat;
+#endif
 
 typedef struct CGPoint {
     CGFloat x;
@@ -46,7 +55,7 @@ static inline bool CGRectEqualToRect(CGRect a, CGRect b) {
     return CGPointEqualToPoint(a.origin, b.origin) && CGSizeEqualToSize(a.size, b.size);
 }
 
-/// The left and top edges belong to a rectangle, the right and bottom edges do not.
+// The left and top edges belong to a rectangle, the right and bottom edges do not.
 static inline bool CGRectContainsPoint(CGRect rect, CGPoint point) {
     return point.x >= CGRectGetMinX(rect) && point.x < CGRectGetMaxX(rect) &&
            point.y >= CGRectGetMinY(rect) && point.y < CGRectGetMaxY(rect);

@@ -1,4 +1,4 @@
-/// The drawing surface behind a view: geometry always agrees with the view that owns it.
+// The drawing surface behind a view: geometry always agrees with the view that owns it.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -13,7 +13,7 @@
 
 + (instancetype)layer;
 
-/// The view that owns the layer; not retained.
+// The view that owns the layer; not retained.
 @property (nonatomic, assign) id delegate;
 @property (nonatomic) CGFloat cornerRadius;
 @property (nonatomic) CGFloat borderWidth;

@@ -1,4 +1,4 @@
-/// Stand-in of the layer framework.
+// Stand-in of the layer framework.
 #pragma once
 
 #import "QuartzCore/CALayer.h"

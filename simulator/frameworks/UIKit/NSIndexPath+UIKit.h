@@ -1,4 +1,4 @@
-/// Index paths of two numbers, as tables and collections use them.
+// Index paths of two numbers, as tables and collections use them.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,4 +1,4 @@
-/// Text measurement by the glyph widths that model/TextMetrics.h describes. Any thread.
+// Text measurement by the glyph widths that model/TextMetrics.h describes. Any thread.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -25,7 +25,7 @@ typedef NS_ENUM(NSInteger, NSLineBreakMode) {
 @interface NSString (UIKit)
 
 - (CGSize)sizeWithFont:(UIFont*)font;
-/// The size in points that the text takes when it is laid out within `size`; never larger than `size`.
+// The size in points that the text takes when it is laid out within `size`; never larger than `size`.
 - (CGSize)sizeWithFont:(UIFont*)font
      constrainedToSize:(CGSize)size
          lineBreakMode:(NSLineBreakMode)lineBreakMode;

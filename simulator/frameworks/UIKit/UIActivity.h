@@ -1,4 +1,4 @@
-/// One thing that the share sheet can do with what is shared.
+// One thing that the share sheet can do with what is shared.
 #pragma once
 
 #import "UIKit/UIViewController.h"
@@ -17,18 +17,18 @@
 - (void)prepareWithActivityItems:(NSArray*)items;
 - (UIViewController*)activityViewController;
 - (void)performActivity;
-/// Tells the share sheet that the work is over.
+// Tells the share sheet that the work is over.
 - (void)activityDidFinish:(BOOL)completed;
 
 @end
 
-/// Saves the shared images into the photo library, asynchronously.
+// Saves the shared images into the photo library, asynchronously.
 @interface UISaveToCameraRollActivity : UIActivity {
   @private
     NSArray* _images;
 }
 
-/// How many of the shared items are images.
+// How many of the shared items are images.
 - (NSInteger)imageCount;
 
 @end

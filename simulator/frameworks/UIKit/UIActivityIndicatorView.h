@@ -1,4 +1,4 @@
-/// A turning wheel that says that something is going on.
+// A turning wheel that says that something is going on.
 #pragma once
 
 #import "UIKit/UIView.h"
@@ -17,12 +17,12 @@ typedef NS_ENUM(NSInteger, UIActivityIndicatorViewStyle) {
     BOOL _animating;
 }
 
-/// 37 points wide and high in the large style, 20 in the others.
+// 37 points wide and high in the large style, 20 in the others.
 - (instancetype)initWithActivityIndicatorStyle:(UIActivityIndicatorViewStyle)style;
 
 @property (nonatomic) UIActivityIndicatorViewStyle activityIndicatorViewStyle;
 @property (nonatomic, retain) UIColor* color;
-/// YES unless set: the view is hidden while it does not turn.
+// YES unless set: the view is hidden while it does not turn.
 @property (nonatomic) BOOL hidesWhenStopped;
 @property (nonatomic, readonly, getter=isAnimating) BOOL animating;
 - (void)startAnimating;

@@ -1,4 +1,4 @@
-/// The share sheet: lists the activities that can handle what is shared and performs the chosen one.
+// The share sheet: lists the activities that can handle what is shared and performs the chosen one.
 #pragma once
 
 #import "UIKit/UIActivity.h"
@@ -18,13 +18,13 @@
 
 @end
 
-/// What a user sees of the sheet and does to it.
+// What a user sees of the sheet and does to it.
 @interface UIActivityViewController (Input)
 
-/// The activities that can perform with the items: the system's own, then the application's.
+// The activities that can perform with the items: the system's own, then the application's.
 - (NSArray*)offeredActivities;
-/// Prepares and performs the offered activity of that title; the sheet goes when it has finished. NO when no
-/// offered activity has the title.
+// Prepares and performs the offered activity of that title; the sheet goes when it has finished. NO when no
+// offered activity has the title.
 - (BOOL)chooseActivityWithTitle:(NSString*)title;
 
 @end

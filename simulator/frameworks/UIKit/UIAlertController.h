@@ -1,4 +1,4 @@
-/// An alert or a sheet of actions that the user must answer.
+// An alert or a sheet of actions that the user must answer.
 #pragma once
 
 #import "UIKit/UIViewController.h"
@@ -28,7 +28,7 @@ typedef NS_ENUM(NSInteger, UIAlertActionStyle) {
     void (^_handler)(UIAlertAction* action);
 }
 
-/// `handler` may be nil; it runs on the main thread after the alert has gone.
+// `handler` may be nil; it runs on the main thread after the alert has gone.
 + (instancetype)actionWithTitle:(NSString*)title
                           style:(UIAlertActionStyle)style
                         handler:(void (^)(UIAlertAction* action))handler;
@@ -50,22 +50,22 @@ typedef NS_ENUM(NSInteger, UIAlertActionStyle) {
 
 @property (nonatomic, copy) NSString* message;
 @property (nonatomic, readonly) UIAlertControllerStyle preferredStyle;
-/// In the order in which they were added.
+// In the order in which they were added.
 @property (nonatomic, readonly) NSArray* actions;
-/// nil when there are none.
+// nil when there are none.
 @property (nonatomic, readonly) NSArray* textFields;
-/// Raises for nil and for a second action of cancel style.
+// Raises for nil and for a second action of cancel style.
 - (void)addAction:(UIAlertAction*)action;
-/// Raises in an action sheet. The handler may be nil and runs at once.
+// Raises in an action sheet. The handler may be nil and runs at once.
 - (void)addTextFieldWithConfigurationHandler:(void (^)(UITextField* field))handler;
 
 @end
 
-/// What a user's finger does to an alert.
+// What a user's finger does to an alert.
 @interface UIAlertController (Input)
 
-/// Dismisses the alert, then runs the action's handler. Raises for an action that is not the alert's or not
-/// enabled.
+// Dismisses the alert, then runs the action's handler. Raises for an action that is not the alert's or not
+// enabled.
 - (void)tapAction:(UIAlertAction*)action;
 
 @end

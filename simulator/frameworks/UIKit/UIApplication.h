@@ -1,5 +1,5 @@
-/// The one application object of a process, of the class that the host chooses, with its windows and life
-/// cycle.
+// The one application object of a process, of the class that the host chooses, with its windows and life
+// cycle.
 #pragma once
 
 #import "UIKit/UIResponder.h"
@@ -20,32 +20,37 @@ typedef NS_ENUM(NSInteger, UIApplicationState) {
     id _applicationDelegate;
 }
 
-/// nil until the application has started. The first instance made becomes the shared one.
+// nil until the application has started. The first instance made becomes the shared one.
 + (UIApplication*)sharedApplication;
 
 @property (nonatomic, readonly, assign) UIWindow* keyWindow;
 @property (nonatomic, readonly) NSArray* windows;
 @property (nonatomic, readonly) UIApplicationState applicationState;
-/// Not retained. The life cycle goes to the delegate where there is one, else to the application object
-/// itself.
+// Not retained. The life cycle goes to the delegate where there is one, else to the application object
+// itself.
 @property (nonatomic, assign) id delegate;
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender forEvent:(id)event;
 
+@end
+
+// The application's life, told to the delegate or to a subclass of UIApplication; who implements none hears
+// nothing.
+@protocol UIApplicationDelegate <NSObject>
+@optional
 - (void)applicationDidFinishLaunching:(UIApplication*)application;
 - (void)applicationDidBecomeActive:(UIApplication*)application;
 - (void)applicationWillResignActive:(UIApplication*)application;
 - (void)applicationDidEnterBackground:(UIApplication*)application;
 - (void)applicationWillEnterForeground:(UIApplication*)application;
-
 @end
 
-/// What the device does to an application.
+// What the device does to an application.
 @interface UIApplication (LifeCycle)
 
-/// Makes the shared application of the class (a subclass of UIApplication) and sends it through its start.
-/// Raises when there already is one.
+// Makes the shared application of the class (a subclass of UIApplication) and sends it through its start.
+// Raises when there already is one.
 + (UIApplication*)startApplicationOfClass:(Class)applicationClass;
-/// As when the home button is pressed.
+// As when the home button is pressed.
 - (void)enterBackground;
 - (void)enterForeground;
 

@@ -1,4 +1,4 @@
-/// Buttons in bars: not views, but what a bar makes its buttons from.
+// Buttons in bars: not views, but what a bar makes its buttons from.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -40,13 +40,12 @@ typedef NS_ENUM(NSInteger, UIBarButtonSystemItem) {
 @interface UIBarButtonItem : UIBarItem {
   @private
     UIBarButtonItemStyle _style;
-    UIBarButtonSystemItem _systemItem;
     id _target;
     SEL _action;
     UIView* _customView;
 }
 
-/// The target is not retained.
+// The target is not retained.
 - (instancetype)initWithTitle:(NSString*)title
                         style:(UIBarButtonItemStyle)style
                        target:(id)target

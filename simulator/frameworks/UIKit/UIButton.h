@@ -1,4 +1,4 @@
-/// A control that shows a title or a picture and is tapped.
+// A control that shows a title or a picture and is tapped.
 #pragma once
 
 #import "UIKit/UIControl.h"

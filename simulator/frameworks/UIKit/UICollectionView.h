@@ -1,4 +1,4 @@
-/// A grid of items that a data source supplies and a layout places.
+// A grid of items that a data source supplies and a layout places.
 #pragma once
 
 #import "UIKit/NSIndexPath+UIKit.h"
@@ -36,12 +36,12 @@ struct CollectionState;
     UICollectionView* _collectionView;
 }
 
-/// Not retained.
+// Not retained.
 @property (nonatomic, readonly, assign) UICollectionView* collectionView;
 - (void)invalidateLayout;
 - (void)prepareLayout;
 - (CGSize)collectionViewContentSize;
-/// The frame of an item in the collection's content, in points.
+// The frame of an item in the collection's content, in points.
 - (CGRect)frameForItemAtIndexPath:(NSIndexPath*)path;
 
 @end
@@ -54,7 +54,7 @@ struct CollectionState;
     UIEdgeInsets _sectionInset;
 }
 
-/// 50 by 50 points unless set.
+// 50 by 50 points unless set.
 @property (nonatomic) CGSize itemSize;
 @property (nonatomic) CGFloat minimumLineSpacing;
 @property (nonatomic) CGFloat minimumInteritemSpacing;
@@ -84,16 +84,16 @@ struct CollectionState;
 - (instancetype)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewLayout*)layout;
 
 @property (nonatomic, retain) UICollectionViewLayout* collectionViewLayout;
-/// Not retained.
+// Not retained.
 @property (nonatomic, assign) id<UICollectionViewDataSource> dataSource;
 @property (nonatomic) BOOL allowsMultipleSelection;
 - (void)registerClass:(Class)cellClass forCellWithReuseIdentifier:(NSString*)identifier;
 - (id)dequeueReusableCellWithReuseIdentifier:(NSString*)identifier forIndexPath:(NSIndexPath*)path;
-/// Asks the data source anew at the next layout.
+// Asks the data source anew at the next layout.
 - (void)reloadData;
 - (NSInteger)numberOfSections;
 - (NSInteger)numberOfItemsInSection:(NSInteger)section;
-/// nil for an item that is not on the screen.
+// nil for an item that is not on the screen.
 - (UICollectionViewCell*)cellForItemAtIndexPath:(NSIndexPath*)path;
 - (NSArray*)visibleCells;
 - (NSArray*)indexPathsForVisibleItems;

@@ -1,4 +1,4 @@
-/// A controller whose view holds one collection, of which it is data source and delegate.
+// A controller whose view holds one collection, of which it is data source and delegate.
 #pragma once
 
 #import "UIKit/UICollectionView.h"

@@ -1,4 +1,4 @@
-/// A colour of red, green, blue and alpha, each from 0 to 1. Immutable; any thread.
+// A colour of red, green, blue and alpha, each from 0 to 1. Immutable; any thread.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"

@@ -1,4 +1,4 @@
-/// A view that tells its targets what the user did with it.
+// A view that tells its targets what the user did with it.
 #pragma once
 
 #import "UIKit/UIView.h"
@@ -35,7 +35,7 @@ typedef NS_OPTIONS(NSUInteger, UIControlState) {
 @property (nonatomic, getter=isHighlighted) BOOL highlighted;
 @property (nonatomic, readonly) UIControlState state;
 
-/// The target is not retained; the action may take the control or nothing.
+// The target is not retained; the action may take the control or nothing.
 - (void)addTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
 - (void)removeTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
 - (void)sendActionsForControlEvents:(UIControlEvents)events;

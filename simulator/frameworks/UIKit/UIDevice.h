@@ -1,4 +1,4 @@
-/// The device that runs the application: its kind and its haptic engine.
+// The device that runs the application: its kind and its haptic engine.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -9,7 +9,7 @@ typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
     UIUserInterfaceIdiomPad = 1,
 };
 
-/// Taps the user's finger; the simulated one keeps what it was asked for.
+// Taps the user's finger; the simulated one keeps what it was asked for.
 @interface _UITapticEngine : NSObject {
   @private
     NSMutableArray* _actuatedFeedback;
@@ -17,7 +17,7 @@ typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
 
 - (void)actuateFeedback:(NSInteger)feedback;
 
-/// NSNumbers of all feedback played so far, oldest first.
+// NSNumbers of all feedback played so far, oldest first.
 @property (nonatomic, readonly) NSArray* actuatedFeedback;
 
 @end
@@ -32,7 +32,7 @@ typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
 @property (nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
 @property (nonatomic, readonly) NSString* systemVersion;
 
-/// nil on a device without one.
+// nil on a device without one.
 - (_UITapticEngine*)_tapticEngine;
 
 @end

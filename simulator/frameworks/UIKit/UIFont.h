@@ -1,4 +1,4 @@
-/// A typeface at a size in points. Immutable; any thread.
+// A typeface at a size in points. Immutable; any thread.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"

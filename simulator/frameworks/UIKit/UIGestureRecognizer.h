@@ -1,4 +1,4 @@
-/// Recognisers of taps and long presses on a view, with the states a gesture goes through.
+// Recognisers of taps and long presses on a view, with the states a gesture goes through.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -24,15 +24,15 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
     simulator::RecognizerState* _recognizerState;
 }
 
-/// The target is not retained; the action may take the recogniser or nothing.
+// The target is not retained; the action may take the recogniser or nothing.
 - (instancetype)initWithTarget:(id)target action:(SEL)action;
 - (void)addTarget:(id)target action:(SEL)action;
 - (void)removeTarget:(id)target action:(SEL)action;
 
-/// Possible again as soon as a gesture is over.
+// Possible again as soon as a gesture is over.
 @property (nonatomic, readonly) UIGestureRecognizerState state;
 @property (nonatomic, readonly, assign) UIView* view;
-/// Not retained; nil once it is gone.
+// Not retained; nil once it is gone.
 @property (nonatomic, assign) id delegate;
 @property (nonatomic, getter=isEnabled) BOOL enabled;
 @property (nonatomic) BOOL cancelsTouchesInView;
@@ -57,7 +57,7 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
     CGFloat _allowableMovement;
 }
 
-/// In seconds; half a second unless set.
+// In seconds; half a second unless set.
 @property (nonatomic) NSTimeInterval minimumPressDuration;
 @property (nonatomic) CGFloat allowableMovement;
 
@@ -67,4 +67,6 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
 @optional
 - (BOOL)gestureRecognizerShouldBegin:(UIGestureRecognizer*)recognizer;
 - (BOOL)gestureRecognizer:(UIGestureRecognizer*)recognizer shouldReceiveTouch:(id)touch;
+- (BOOL)gestureRecognizer:(UIGestureRecognizer*)recognizer
+    shouldRecognizeSimultaneouslyWithGestureRecognizer:(UIGestureRecognizer*)other;
 @end

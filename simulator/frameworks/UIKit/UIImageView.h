@@ -1,4 +1,4 @@
-/// A view that shows a picture. Takes no touches unless told to.
+// A view that shows a picture. Takes no touches unless told to.
 #pragma once
 
 #import "UIKit/UIView.h"
@@ -10,7 +10,7 @@
     UIImage* _image;
 }
 
-/// Takes the size of the image; an empty view for nil.
+// Takes the size of the image; an empty view for nil.
 - (instancetype)initWithImage:(UIImage*)image;
 
 @property (nonatomic, retain) UIImage* image;

@@ -1,8 +1,8 @@
-/// Stand-in of the user-interface framework. Include this header alone.
-///
-/// Views, controllers and alerts belong to the main thread and raise NSInternalInconsistencyException
-/// elsewhere; colours, fonts, images and text measurement may be used on any thread. Memory is counted by
-/// hand.
+// Stand-in of the user-interface framework. Include this header alone.
+//
+// Views, controllers and alerts belong to the main thread and raise NSInternalInconsistencyException
+// elsewhere; colours, fonts, images and text measurement may be used on any thread. Memory is counted by
+// hand.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"

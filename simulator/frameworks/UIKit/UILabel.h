@@ -1,4 +1,4 @@
-/// A view that shows text. Takes no touches unless told to.
+// A view that shows text. Takes no touches unless told to.
 #pragma once
 
 #import "UIKit/NSString+UIKit.h"
@@ -22,12 +22,12 @@ typedef NS_ENUM(NSInteger, UIBaselineAdjustment) {
 }
 
 @property (nonatomic, copy) NSString* text;
-/// The system font of 17 points unless set.
+// The system font of 17 points unless set.
 @property (nonatomic, retain) UIFont* font;
 @property (nonatomic, retain) UIColor* textColor;
 @property (nonatomic) NSTextAlignment textAlignment;
 @property (nonatomic) NSLineBreakMode lineBreakMode;
-/// 0 means as many as fit.
+// 0 means as many as fit.
 @property (nonatomic) NSInteger numberOfLines;
 @property (nonatomic) UIBaselineAdjustment baselineAdjustment;
 @property (nonatomic) BOOL adjustsFontSizeToFitWidth;

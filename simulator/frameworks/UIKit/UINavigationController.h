@@ -1,4 +1,4 @@
-/// A stack of controllers under a bar that shows the title of the topmost.
+// A stack of controllers under a bar that shows the title of the topmost.
 #pragma once
 
 #import "UIKit/UINavigationItem.h"
@@ -15,7 +15,7 @@ struct NavigationState;
     NSArray* _items;
 }
 
-/// One item for each controller of the stack, the topmost last.
+// One item for each controller of the stack, the topmost last.
 @property (nonatomic, copy) NSArray* items;
 @property (nonatomic, readonly, assign) UINavigationItem* topItem;
 @property (nonatomic, readonly, assign) UINavigationItem* backItem;
@@ -47,9 +47,9 @@ struct NavigationState;
 @property (nonatomic, readonly, assign) UIViewController* topViewController;
 @property (nonatomic, readonly, assign) UIViewController* visibleViewController;
 - (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated;
-/// The popped controller; nil when only the root is left.
+// The popped controller; nil when only the root is left.
 - (UIViewController*)popViewControllerAnimated:(BOOL)animated;
-/// The popped controllers, empty when the root was on top.
+// The popped controllers, empty when the root was on top.
 - (NSArray*)popToRootViewControllerAnimated:(BOOL)animated;
 - (NSArray*)popToViewController:(UIViewController*)controller animated:(BOOL)animated;
 

@@ -1,4 +1,4 @@
-/// What a controller shows in the navigation bar: a title and buttons on either side.
+// What a controller shows in the navigation bar: a title and buttons on either side.
 #pragma once
 
 #import "UIKit/UIBarButtonItem.h"
@@ -19,10 +19,10 @@
 @property (nonatomic, copy) NSString* prompt;
 @property (nonatomic, retain) UIView* titleView;
 @property (nonatomic) BOOL hidesBackButton;
-/// nil when there are none.
+// nil when there are none.
 @property (nonatomic, copy) NSArray* leftBarButtonItems;
 @property (nonatomic, copy) NSArray* rightBarButtonItems;
-/// The first of each side.
+// The first of each side.
 @property (nonatomic, retain) UIBarButtonItem* leftBarButtonItem;
 @property (nonatomic, retain) UIBarButtonItem* rightBarButtonItem;
 - (void)setLeftBarButtonItems:(NSArray*)items animated:(BOOL)animated;

@@ -1,4 +1,4 @@
-/// How one controller is shown over another, and what a popover's arrow points at.
+// How one controller is shown over another, and what a popover's arrow points at.
 #pragma once
 
 #import "UIKit/UIViewController.h"
@@ -12,10 +12,12 @@
     CGRect _sourceRect;
 }
 
-/// Not retained.
+- (instancetype)initWithPresentedViewController:(UIViewController*)controller;
+
+// Not retained.
 @property (nonatomic, readonly, assign) UIViewController* presentedViewController;
 @property (nonatomic, retain) UIView* sourceView;
-/// In the source view's coordinates.
+// In the source view's coordinates.
 @property (nonatomic) CGRect sourceRect;
 
 @end

@@ -1,4 +1,4 @@
-/// Whatever can take part in the handling of events: views, controllers and the application.
+// Whatever can take part in the handling of events: views, controllers and the application.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"

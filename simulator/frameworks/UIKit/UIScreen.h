@@ -1,4 +1,4 @@
-/// The device's screen, measured as the device's conditions say.
+// The device's screen, measured as the device's conditions say.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -7,9 +7,9 @@
 
 + (UIScreen*)mainScreen;
 
-/// In points. Before iOS 8 always as held upright.
+// In points. Before iOS 8 always as held upright.
 @property (nonatomic, readonly) CGRect bounds;
-/// Pixels to a point.
+// Pixels to a point.
 @property (nonatomic, readonly) CGFloat scale;
 
 @end

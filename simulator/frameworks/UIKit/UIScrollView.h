@@ -1,4 +1,4 @@
-/// A view whose content may be larger than itself.
+// A view whose content may be larger than itself.
 #pragma once
 
 #import "UIKit/UIView.h"
@@ -18,10 +18,10 @@ typedef struct UIEdgeInsets {
 }
 
 @property (nonatomic) CGSize contentSize;
-/// The origin of the bounds.
+// The origin of the bounds.
 @property (nonatomic) CGPoint contentOffset;
 @property (nonatomic) UIEdgeInsets contentInset;
-/// Not retained.
+// Not retained.
 @property (nonatomic, assign) id delegate;
 - (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated;
 

@@ -1,4 +1,4 @@
-/// A control that is on or off.
+// A control that is on or off.
 #pragma once
 
 #import "UIKit/UIControl.h"

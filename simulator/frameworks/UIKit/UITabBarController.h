@@ -1,4 +1,4 @@
-/// Several controllers, of which the bar at the bottom chooses one.
+// Several controllers, of which the bar at the bottom chooses one.
 #pragma once
 
 #import "UIKit/UIBarButtonItem.h"

@@ -1,4 +1,4 @@
-/// A list of rows that a data source supplies.
+// A list of rows that a data source supplies.
 #pragma once
 
 #import "UIKit/NSIndexPath+UIKit.h"
@@ -39,7 +39,7 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 @property (nonatomic, readonly, copy) NSString* reuseIdentifier;
 @property (nonatomic, readonly, retain) UIView* contentView;
 @property (nonatomic, readonly, retain) UILabel* textLabel;
-/// nil in the default style.
+// nil in the default style.
 @property (nonatomic, readonly, retain) UILabel* detailTextLabel;
 @property (nonatomic, readonly, retain) UIImageView* imageView;
 @property (nonatomic) UITableViewCellAccessoryType accessoryType;
@@ -70,7 +70,7 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style;
 
 @property (nonatomic, readonly) UITableViewStyle style;
-/// Not retained.
+// Not retained.
 @property (nonatomic, assign) id<UITableViewDataSource> dataSource;
 @property (nonatomic) CGFloat rowHeight;
 - (void)reloadData;
@@ -79,7 +79,7 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 - (void)registerClass:(Class)cellClass forCellReuseIdentifier:(NSString*)identifier;
 - (id)dequeueReusableCellWithIdentifier:(NSString*)identifier;
 - (id)dequeueReusableCellWithIdentifier:(NSString*)identifier forIndexPath:(NSIndexPath*)path;
-/// nil for a row that is not on the screen.
+// nil for a row that is not on the screen.
 - (UITableViewCell*)cellForRowAtIndexPath:(NSIndexPath*)path;
 - (NSArray*)visibleCells;
 - (NSIndexPath*)indexPathForCell:(UITableViewCell*)cell;

@@ -1,4 +1,4 @@
-/// A control into which the user types one line of text.
+// A control into which the user types one line of text.
 #pragma once
 
 #import "UIKit/NSString+UIKit.h"
@@ -15,7 +15,7 @@ struct TextFieldState;
     simulator::TextFieldState* _textFieldState;
 }
 
-/// Never nil: the empty string when nothing was typed.
+// Never nil: the empty string when nothing was typed.
 @property (nonatomic, copy) NSString* text;
 @property (nonatomic, copy) NSString* placeholder;
 @property (nonatomic, retain) UIFont* font;
@@ -23,7 +23,7 @@ struct TextFieldState;
 @property (nonatomic) NSTextAlignment textAlignment;
 @property (nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
 @property (nonatomic, readonly, getter=isEditing) BOOL editing;
-/// Not retained; nil once it is gone.
+// Not retained; nil once it is gone.
 @property (nonatomic, assign) id delegate;
 
 @end

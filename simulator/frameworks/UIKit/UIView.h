@@ -1,4 +1,4 @@
-/// A rectangle on the screen: the view tree with its geometry, autoresizing, layout and hit testing.
+// A rectangle on the screen: the view tree with its geometry, autoresizing, layout and hit testing.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -47,7 +47,7 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 
 - (instancetype)initWithFrame:(CGRect)frame;
 
-/// Frame (in the superview), bounds (its own) and centre always agree: changing one moves the others.
+// Frame (in the superview), bounds (its own) and centre always agree: changing one moves the others.
 @property (nonatomic) CGRect frame;
 @property (nonatomic) CGRect bounds;
 @property (nonatomic) CGPoint center;
@@ -57,7 +57,7 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 - (CGRect)convertRect:(CGRect)rect fromView:(UIView*)view;
 
 @property (nonatomic) NSInteger tag;
-/// The receiver itself or the first view below it, at any depth, that has the tag; nil when there is none.
+// The receiver itself or the first view below it, at any depth, that has the tag; nil when there is none.
 - (UIView*)viewWithTag:(NSInteger)tag;
 
 @property (nonatomic, readonly, assign) UIView* superview;
@@ -104,16 +104,20 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 - (void)addGestureRecognizer:(UIGestureRecognizer*)recognizer;
 - (void)removeGestureRecognizer:(UIGestureRecognizer*)recognizer;
 
-/// The deepest visible view under a point of the receiver's own coordinates that takes touches, or nil. The
-/// event is always nil here.
+// The deepest visible view under a point of the receiver's own coordinates that takes touches, or nil. The
+// event is always nil here.
 - (UIView*)hitTest:(CGPoint)point withEvent:(id)event;
 - (BOOL)pointInside:(CGPoint)point withEvent:(id)event;
 
-/// The controller whose view this is, or that of the nearest view above that has one.
+// The controller whose view this is, or that of the nearest view above that has one.
 - (UIViewController*)_viewControllerForAncestor;
 
-/// The final values stand at once; the completion runs on the main run loop after delay + duration (seconds)
-/// of the device's clock. `animations` must not be nil, `completion` may be.
+@end
+
+@interface UIView (Animation)
+
+// The final values stand at once; the completion runs on the main run loop after delay + duration (seconds)
+// of the device's clock. `animations` must not be nil, `completion` may be.
 + (void)animateWithDuration:(NSTimeInterval)duration
                       delay:(NSTimeInterval)delay
                     options:(UIViewAnimationOptions)options

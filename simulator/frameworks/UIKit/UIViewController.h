@@ -1,12 +1,12 @@
-/// A screenful: a view that is loaded when first asked for, told when it appears, and what it presents on
-/// top.
+// A screenful: a view that is loaded when first asked for, told when it appears, and what it presents on
+// top.
 #pragma once
 
 #import "UIKit/UIResponder.h"
 #import "UIKit/UIView.h"
 
-@class UINavigationController, UINavigationItem, UIPopoverPresentationController, UITabBarController,
-    UITabBarItem;
+@class UIBarButtonItem, UINavigationController, UINavigationItem, UIPopoverPresentationController,
+    UITabBarController, UITabBarItem;
 
 namespace simulator {
 struct ControllerState;
@@ -24,7 +24,7 @@ typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
 };
 
 @protocol UIViewControllerTransitionCoordinator <NSObject>
-/// `completion` runs once the new size is in place; both blocks may be nil.
+// `completion` runs once the new size is in place; both blocks may be nil.
 - (BOOL)animateAlongsideTransition:(void (^)(id context))animation
                         completion:(void (^)(id context))completion;
 @end
@@ -53,6 +53,8 @@ typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
 
 @property (nonatomic, getter=isEditing) BOOL editing;
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated;
+// A button for a bar that turns editing on and off.
+- (UIBarButtonItem*)editButtonItem;
 
 @property (nonatomic, readonly, assign) UIViewController* parentViewController;
 @property (nonatomic, readonly) NSArray* childViewControllers;
@@ -67,19 +69,24 @@ typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
 @property (nonatomic, copy) NSArray* toolbarItems;
 - (void)setToolbarItems:(NSArray*)items animated:(BOOL)animated;
 
+@property (nonatomic) CGSize preferredContentSize;
+
+@end
+
+@interface UIViewController (Presentation)
+
 @property (nonatomic) UIModalPresentationStyle modalPresentationStyle;
 @property (nonatomic, readonly, assign) UIViewController* presentedViewController;
 @property (nonatomic, readonly, assign) UIViewController* presentingViewController;
-/// Not nil while the presentation style is a popover; also what an action sheet is anchored by on a pad.
+// Not nil while the presentation style is a popover; also what an action sheet is anchored by on a pad.
 @property (nonatomic, readonly) UIPopoverPresentationController* popoverPresentationController;
-@property (nonatomic) CGSize preferredContentSize;
-/// Presented at once; `completion` (may be nil) runs on the main run loop when the transition is over.
-/// Refused with a line in the log when this controller already presents one or is not on the screen. Raises
-/// on a pad when a popover has no anchor.
+// Presented at once; `completion` (may be nil) runs on the main run loop when the transition is over.
+// Refused with a line in the log when this controller already presents one or is not on the screen. Raises
+// on a pad when a popover has no anchor.
 - (void)presentViewController:(UIViewController*)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion;
-/// Takes away what this controller presents or, when it presents nothing, this controller itself.
+// Takes away what this controller presents or, when it presents nothing, this controller itself.
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(void (^)(void))completion;
 
 @end

@@ -1,4 +1,4 @@
-/// A view that blurs what lies behind it.
+// A view that blurs what lies behind it.
 #pragma once
 
 #import "UIKit/UIView.h"
@@ -32,7 +32,7 @@ typedef NS_ENUM(NSInteger, UIBlurEffectStyle) {
 - (instancetype)initWithEffect:(UIVisualEffect*)effect;
 
 @property (nonatomic, copy) UIVisualEffect* effect;
-/// Subviews belong in here; always as large as the view.
+// Subviews belong in here; always as large as the view.
 @property (nonatomic, readonly, retain) UIView* contentView;
 
 @end

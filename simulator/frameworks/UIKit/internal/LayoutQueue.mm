@@ -1,0 +1,28 @@
+#import "UIKit/internal/LayoutQueue.h"
+
+#import "UIKit/UIApplication.h"
+#import "UIKit/UIWindow.h"
+#import "UIKit/internal/ViewState.h"
+#include "device/threads.h"
+
+namespace simulator {
+
+namespace {
+
+bool layoutIsScheduled = false; // main thread only
+
+} // namespace
+
+void scheduleLayout() {
+    if (layoutIsScheduled) return;
+    layoutIsScheduled = true;
+    performOnMainThread(layoutWindows);
+}
+
+void layoutWindows() {
+    layoutIsScheduled = false;
+    for (UIWindow* window in [[UIApplication sharedApplication] windows])
+        [window layoutTree];
+}
+
+} // namespace simulator

@@ -1,0 +1,8 @@
+// How the device is held.
+#pragma once
+
+namespace simulator {
+
+bool isLandscape(); // main thread
+
+} // namespace simulator
