@@ -1,0 +1,81 @@
+#import "CameraUI/CameraUI.h"
+
+#import "Photos/Photos.h"
+
+#include <objc/runtime.h>
+
+namespace {
+
+constexpr CGFloat bottomBarHeight = 100;
+
+UIImage* pictureOfNewestPhoto() {
+    if (!objc_getClass("PHAsset")) return nil; // before iOS 8
+    PHFetchOptions* newestFirst = [[[PHFetchOptions alloc] init] autorelease];
+    [newestFirst setSortDescriptors:@[ [NSSortDescriptor sortDescriptorWithKey:@"creationDate"
+                                                                     ascending:NO] ]];
+    [newestFirst setFetchLimit:1];
+    PHAsset* newest = [[PHAsset fetchAssetsWithOptions:newestFirst] firstObject];
+    if (newest == nil) return nil;
+    PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];
+    [options setSynchronous:YES];
+    __block UIImage* picture = nil;
+    [[PHImageManager defaultManager] requestImageForAsset:newest
+                                               targetSize:CGSizeMake(88, 88)
+                                              contentMode:PHImageContentModeAspectFill
+                                                  options:options
+                                            resultHandler:^(UIImage* image, NSDictionary*) {
+                                                picture = [image retain];
+                                            }];
+    return [picture autorelease];
+}
+
+} // namespace
+
+@implementation CAMViewfinderViewController
+
+@synthesize captureEngine = _captureEngine, bottomBar = _bottomBar;
+
+- (instancetype)init {
+    self = [super init];
+    if (!self) return nil;
+    _captureEngine = [[CAMCaptureEngine alloc] init];
+    [[NSNotificationCenter defaultCenter] addObserver:self
+                                             selector:@selector(_engineDidSave:)
+                                                 name:CAMCaptureEngineDidSaveNotification
+                                               object:_captureEngine];
+    return self;
+}
+
+- (void)dealloc {
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    [_captureEngine release];
+    [_bottomBar release];
+    [super dealloc];
+}
+
+- (void)viewDidLoad {
+    [super viewDidLoad];
+    CGRect bounds = [[self view] bounds];
+    CGRect barFrame = CGRectMake(0, bounds.size.height - bottomBarHeight, bounds.size.width, bottomBarHeight);
+    _bottomBar = [[CAMBottomBar alloc] initWithFrame:barFrame];
+    [_bottomBar setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleTopMargin];
+    [[_bottomBar shutterButton] addTarget:self
+                                   action:@selector(_shutterPressed:)
+                         forControlEvents:UIControlEventTouchUpInside];
+    [[self view] addSubview:_bottomBar];
+}
+
+- (void)viewWillAppear:(BOOL)animated {
+    [super viewWillAppear:animated];
+    [[_bottomBar imageWell] setThumbnailImage:pictureOfNewestPhoto()];
+}
+
+- (void)_shutterPressed:(id)sender {
+    [_captureEngine captureStillImageWithError:nil];
+}
+
+- (void)_engineDidSave:(NSNotification*)notification {
+    [[_bottomBar imageWell] setThumbnailImage:pictureOfNewestPhoto()];
+}
+
+@end

@@ -1,0 +1,51 @@
+#import "PhotosUI/PUNavigationController.h"
+
+@implementation PUNavigationController
+
+@synthesize _currentToolbarViewController = _currentToolbarViewController;
+
+- (void)dealloc {
+    [_currentToolbarViewController release];
+    [super dealloc];
+}
+
+- (void)_topViewControllerDidChange {
+    UIViewController* top = [self topViewController];
+    [self _setCurrentToolbarViewController:top];
+    if (top != nil) [[[self tabBarController] tabBar] setHidden:[top pu_wantsTabBarVisible] ? NO : YES];
+}
+
+- (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated {
+    [super pushViewController:controller animated:animated];
+    [self _topViewControllerDidChange];
+}
+
+- (void)setViewControllers:(NSArray*)controllers {
+    [super setViewControllers:controllers];
+    [self _topViewControllerDidChange];
+}
+
+- (UIViewController*)popViewControllerAnimated:(BOOL)animated {
+    UIViewController* popped = [super popViewControllerAnimated:animated];
+    [self _topViewControllerDidChange];
+    return popped;
+}
+
+- (NSArray*)popToViewController:(UIViewController*)controller animated:(BOOL)animated {
+    NSArray* popped = [super popToViewController:controller animated:animated];
+    [self _topViewControllerDidChange];
+    return popped;
+}
+
+- (NSArray*)popToRootViewControllerAnimated:(BOOL)animated {
+    NSArray* popped = [super popToRootViewControllerAnimated:animated];
+    [self _topViewControllerDidChange];
+    return popped;
+}
+
+- (void)viewWillAppear:(BOOL)animated {
+    [super viewWillAppear:animated];
+    [self _topViewControllerDidChange];
+}
+
+@end

@@ -1,0 +1,4 @@
+#import "PhotosUICore/PhotosUICore.h"
+
+@implementation PXRoundedCornerOverlayView
+@end

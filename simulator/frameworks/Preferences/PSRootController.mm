@@ -1,0 +1,4 @@
+#import "Preferences/PSRootController.h"
+
+@implementation PSRootController
+@end

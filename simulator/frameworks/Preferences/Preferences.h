@@ -1,0 +1,3 @@
+#pragma once
+
+#import "Preferences/PSRootController.h"

@@ -1,0 +1,69 @@
+/// What a user does in Photos. Main thread; the running application must be Photos. Whatever is not on the
+/// screen as the action needs it throws std::runtime_error saying so.
+#pragma once
+
+#import "PhotosUI/PhotosUI.h"
+#import "hosts/applications/photos/PhotosApplication.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+namespace simulator::photos {
+
+PhotosApplication* application();
+PUTabbedLibraryViewController* library();
+
+/// Taps a tab; a tab that is not there throws.
+void selectTab(PUContentMode mode);
+
+/// The album list at the top of the Albums tab, reloaded and laid out.
+PUAlbumListViewController* openAlbumList();
+
+/// The album list on the screen: a folder's, the one that picks an album, or the whole library's.
+PUAlbumListViewController* albumList();
+
+/// What a list shows: [{"title": "Holidays", "subtitle": "12", "editCapabilities": 7}].
+nlohmann::json describeAlbums(PUAlbumListViewController* list);
+
+/// Where the first album of that title is in the list.
+NSIndexPath* pathOfAlbum(PUAlbumListViewController* list, const std::string& title);
+
+/// The cell of the album, after scrolling to it.
+PUAlbumListCell* albumCell(PUAlbumListViewController* list, const std::string& title);
+
+/// Taps the album in the list on the screen.
+void tapAlbum(const std::string& title);
+
+/// Opens the album from the top of the Albums tab and gives the screen with its photos.
+PUPhotosAlbumViewController* openAlbum(const std::string& title);
+
+/// Taps Edit or Done in the album list on the screen, unless it is in that mode already.
+void setEditing(bool editing);
+
+/// Taps the album's delete button in edit mode; the question remains to be answered.
+void tapDeleteAlbum(const std::string& title);
+
+/// The grid of moments in the Photos tab.
+PUZoomableGridViewController* openMoments();
+
+/// Taps Select and then the photos, by their places in the grid.
+void selectPhotos(PUPhotosGridViewController* grid, const std::vector<std::size_t>& places);
+
+/// Taps Add To and gives the list in which the user chooses the album.
+PUAlbumListViewController* addSelectionToAlbum(PUPhotosGridViewController* grid);
+
+/// Taps a photo outside selection mode and gives the screen with it.
+PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t place);
+
+/// Taps Share and gives the screen with the selected photos.
+PUPhotosSharingViewController* shareSelection(PUPhotosGridViewController* grid);
+
+/// Verbs: "albums", "openAlbum" {"title"}, "tapAlbum" {"title"}, "editAlbums" {"editing"}, "deleteAlbum"
+/// {"title"}, "openMoments", "selectPhotos" {"places"}, "addSelection", "removeSelection", "openPhoto"
+/// {"place"}, "tapBarButton"
+/// {"title"}, "tapAlert" {"title"}, "enterBackground", "enterForeground".
+void addVerbs();
+
+} // namespace simulator::photos

@@ -1,0 +1,155 @@
+#include "hosts/applications/photos/photos_app.h"
+
+#include "hosts/applications/common/screen.h"
+
+#include <stdexcept>
+
+namespace simulator::photos {
+
+namespace {
+
+template <typename Controller> Controller* onScreenAs(const char* what) {
+    UIViewController* front = controllerOnScreen();
+    if (![front isKindOfClass:[Controller class]])
+        throw std::runtime_error(std::string(what) + " is not on the screen, but " +
+                                 text([[front class] description]));
+    return static_cast<Controller*>(front);
+}
+
+NSIndexPath* pathAt(std::size_t place) {
+    return [NSIndexPath indexPathForItem:static_cast<NSInteger>(place) inSection:0];
+}
+
+void scrollTo(UICollectionView* collection, NSIndexPath* path) {
+    layOutScreen();
+    CGRect frame = [[collection collectionViewLayout] frameForItemAtIndexPath:path];
+    CGRect visible = [collection bounds];
+    if (CGRectGetMinY(frame) >= CGRectGetMinY(visible) && CGRectGetMaxY(frame) <= CGRectGetMaxY(visible))
+        return;
+    [collection setContentOffset:CGPointMake(0, frame.origin.y) animated:NO];
+    layOutScreen();
+}
+
+void tapItem(UICollectionView* collection, NSIndexPath* path) {
+    scrollTo(collection, path);
+    UICollectionViewCell* cell = [collection cellForItemAtIndexPath:path];
+    if (cell == nil) throw std::runtime_error("nothing is shown at place " + std::to_string([path item]));
+    tap(cell);
+    layOutScreen();
+}
+
+} // namespace
+
+PhotosApplication* application() {
+    return static_cast<PhotosApplication*>([UIApplication sharedApplication]);
+}
+
+PUTabbedLibraryViewController* library() {
+    return static_cast<PUTabbedLibraryViewController*>([application() rootViewController]);
+}
+
+void selectTab(PUContentMode mode) {
+    if ([library() navigationControllerForContentMode:mode] == nil)
+        throw std::runtime_error("the library has no tab for content mode " + std::to_string(mode));
+    [library() setSelectedContentMode:mode];
+    layOutScreen();
+}
+
+PUAlbumListViewController* openAlbumList() {
+    selectTab(PUContentModeAlbums);
+    [[library() selectedNavigationController] popToRootViewControllerAnimated:NO];
+    PUAlbumListViewController* list = albumList();
+    [list reloadContentView];
+    layOutScreen();
+    return list;
+}
+
+PUAlbumListViewController* albumList() { return onScreenAs<PUAlbumListViewController>("an album list"); }
+
+nlohmann::json describeAlbums(PUAlbumListViewController* list) {
+    auto rows = nlohmann::json::array();
+    UICollectionView* collection = [list mainCollectionView];
+    layOutScreen();
+    for (NSInteger item = 0; item < [collection numberOfItemsInSection:0]; ++item) {
+        NSIndexPath* path = [NSIndexPath indexPathForItem:item inSection:0];
+        scrollTo(collection, path);
+        auto cell = static_cast<PUAlbumListCell*>([collection cellForItemAtIndexPath:path]);
+        PUAlbumListCellContentView* content = [cell albumListCellContentView];
+        rows.push_back({{"title", text([content title])},
+                        {"subtitle", text([content subtitle])},
+                        {"editCapabilities", [content editCapabilities]}});
+    }
+    return rows;
+}
+
+NSIndexPath* pathOfAlbum(PUAlbumListViewController* list, const std::string& title) {
+    for (NSInteger item = 0; item < [[list mainCollectionView] numberOfItemsInSection:0]; ++item) {
+        NSIndexPath* path = [NSIndexPath indexPathForItem:item inSection:0];
+        NSString* shown = [[list collectionAtIndexPath:path] localizedTitle];
+        if (shown != nil && text(shown) == title) return path;
+    }
+    throw std::runtime_error("the album list has no album \"" + title + "\"");
+}
+
+PUAlbumListCell* albumCell(PUAlbumListViewController* list, const std::string& title) {
+    layOutScreen();
+    NSIndexPath* path = pathOfAlbum(list, title);
+    scrollTo([list mainCollectionView], path);
+    return static_cast<PUAlbumListCell*>([[list mainCollectionView] cellForItemAtIndexPath:path]);
+}
+
+void tapAlbum(const std::string& title) {
+    layOutScreen();
+    PUAlbumListViewController* list = albumList();
+    tapItem([list mainCollectionView], pathOfAlbum(list, title));
+}
+
+PUPhotosAlbumViewController* openAlbum(const std::string& title) {
+    openAlbumList();
+    tapAlbum(title);
+    return onScreenAs<PUPhotosAlbumViewController>("the album's contents");
+}
+
+void setEditing(bool editing) {
+    PUAlbumListViewController* list = albumList();
+    if ([list isEditing] != (editing ? YES : NO)) tapBarButton(list, editing ? "Edit" : "Done");
+    layOutScreen();
+}
+
+void tapDeleteAlbum(const std::string& title) {
+    UIButton* button = [[albumCell(albumList(), title) albumListCellContentView] _deleteButton];
+    if (button == nil) throw std::runtime_error("the album \"" + title + "\" has no delete button now");
+    [button sendActionsForControlEvents:UIControlEventTouchUpInside];
+}
+
+PUZoomableGridViewController* openMoments() {
+    selectTab(PUContentModePhotos);
+    [[library() selectedNavigationController] popToRootViewControllerAnimated:NO];
+    layOutScreen();
+    return onScreenAs<PUZoomableGridViewController>("the grid of moments");
+}
+
+void selectPhotos(PUPhotosGridViewController* grid, const std::vector<std::size_t>& places) {
+    if (![grid isEditing]) tapBarButton(grid, "Select");
+    for (std::size_t place : places)
+        tapItem([grid collectionView], pathAt(place));
+}
+
+PUAlbumListViewController* addSelectionToAlbum(PUPhotosGridViewController* grid) {
+    tapBarButton(grid, "Add To");
+    layOutScreen();
+    return albumList();
+}
+
+PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t place) {
+    tapItem([grid collectionView], pathAt(place));
+    return onScreenAs<PUOneUpViewController>("the one-up view");
+}
+
+PUPhotosSharingViewController* shareSelection(PUPhotosGridViewController* grid) {
+    tapBarButton(grid, "Share");
+    layOutScreen();
+    return onScreenAs<PUPhotosSharingViewController>("the sharing screen");
+}
+
+} // namespace simulator::photos
