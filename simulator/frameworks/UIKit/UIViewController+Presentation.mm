@@ -14,6 +14,13 @@ using simulator::Transition;
 
 namespace {
 
+// Presentations belong to the outermost container, whichever controller inside it asked.
+UIViewController* presenterFor(UIViewController* controller) {
+    while (UIViewController* parent = [controller parentViewController])
+        controller = parent;
+    return controller;
+}
+
 // Starts a transition of what a controller presents; `finish` is sent to it when the time has come, unless
 // the transition was cut short before.
 void beginTransition(UIViewController* presenter, Transition kind, bool animated, void (^completion)(void)) {
@@ -44,16 +51,12 @@ void beginTransition(UIViewController* presenter, Transition kind, bool animated
 
 - (UIViewController*)presentedViewController {
     mainThreadOnly(self, _cmd);
-    for (UIViewController* each = self; each; each = [each parentViewController])
-        if ([each controllerState].presented) return [each controllerState].presented.get();
-    return nil;
+    return [presenterFor(self) controllerState].presented.get();
 }
 
 - (UIViewController*)presentingViewController {
     mainThreadOnly(self, _cmd);
-    for (UIViewController* each = self; each; each = [each parentViewController])
-        if ([each controllerState].presenting) return [each controllerState].presenting;
-    return nil;
+    return [presenterFor(self) controllerState].presenting;
 }
 
 - (UIPopoverPresentationController*)popoverPresentationController {
@@ -97,7 +100,7 @@ void beginTransition(UIViewController* presenter, Transition kind, bool animated
 // Why a presentation is refused; nil when it is not.
 - (NSString*)reasonNotToPresent:(UIViewController*)controller {
     if ([self presentedViewController])
-        return [self controllerState].transition == Transition::dismissing
+        return [presenterFor(self) controllerState].transition == Transition::dismissing
                    ? @"while a dismissal is in progress"
                    : @"which is already presenting";
     if (![[self view] window]) return @"whose view is not in the window hierarchy";
@@ -117,8 +120,9 @@ void beginTransition(UIViewController* presenter, Transition kind, bool animated
         return NSLog(@"Warning: Attempt to present %@ on %@ %@!", controller, self, reason);
     [controller requireAnchor];
 
-    [self controllerState].presented = controller;
-    [controller controllerState].presenting = self;
+    UIViewController* presenter = presenterFor(self);
+    [presenter controllerState].presented = controller;
+    [controller controllerState].presenting = presenter;
     UIWindow* window = [[self view] window];
     UIViewController* covered = [controller coversPresenter] ? [window rootViewController] : nil;
     simulator::willDisappear(covered, animated);
@@ -126,7 +130,7 @@ void beginTransition(UIViewController* presenter, Transition kind, bool animated
     [[controller view] setFrame:[window bounds]];
     [window addSubview:[controller view]];
     [[controller view] layoutIfNeeded];
-    beginTransition(self, Transition::presenting, animated, completion);
+    beginTransition(presenter, Transition::presenting, animated, completion);
 }
 
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(void (^)(void))completion {

@@ -58,6 +58,12 @@ using simulator::mainThreadOnly;
     [self showRoot];
 }
 
+- (void)layoutSubviews {
+    [super layoutSubviews];
+    if ([[_rootViewController viewIfLoaded] superview] == self)
+        [[_rootViewController view] setFrame:[self bounds]];
+}
+
 - (void)showRoot {
     if (!_rootViewController) return;
     simulator::willAppear(_rootViewController, false);
