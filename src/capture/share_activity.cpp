@@ -1,0 +1,60 @@
+#include "capture/album_chooser.h"
+#include "capture/hooks.h"
+#include "capture/newest_photo.h"
+#include "objc/global.h"
+#include "objc/replacement.h"
+#include "settings/settings.h"
+
+namespace rollkeeper {
+
+namespace {
+
+// The title of the last pick in this process; never persisted.
+constinit MainThreadGlobal<NSString> saveActivityAlbum;
+
+struct ActivityMethods {
+    static constexpr FixedString className = "UISaveToCameraRollActivity";
+    static void movePhoto(NSObject activity) { send<ActivityMethods, "movePhoto", void>(activity); }
+    static void chooseAlbum(NSObject activity) { send<ActivityMethods, "chooseAlbum", void>(activity); }
+};
+
+} // namespace
+
+// A created album is only remembered: the shared photo stays where the share sheet put it.
+constexpr AlbumChooserPolicy shareSheetChooserPolicy = {
+    .picked =
+        [](NSObject activity, NSString title) {
+            saveActivityAlbum.set(title);
+            ActivityMethods::movePhoto(activity);
+        },
+    .created = [](NSObject, NSString title) { saveActivityAlbum.set(title); },
+    .presenter = [](NSObject) { return UIApplication::sharedApplication().keyWindow().rootViewController(); },
+    .anchor = [](NSObject) { return UIView(); },
+};
+
+namespace shareActivity {
+
+NSObject performActivity(UISaveToCameraRollActivity self, SEL command) {
+    const NSObject result = original<performActivity>(self, command);
+    if (settings::enabled && settings::saveActivityEnabled && self.imageCount() >= 1)
+        ActivityMethods::chooseAlbum(self);
+    return result;
+}
+
+// "Camera Roll" is a title like any other here: a user album of that name is found or created. Kept on
+// purpose.
+void movePhoto(UISaveToCameraRollActivity, SEL) {
+    addNewestPhotoToAlbum(saveActivityAlbum.get());
+    if (settings::saveActivityMove) hideNewestPhoto();
+}
+
+void chooseAlbum(UISaveToCameraRollActivity self, SEL) {
+    presentAlbumChooser(AlbumChooser::shareSheet, self);
+}
+
+void createNewAlbum(UISaveToCameraRollActivity self, SEL) {
+    presentNewAlbumAlert(AlbumChooser::shareSheet, self);
+}
+
+} // namespace shareActivity
+} // namespace rollkeeper

@@ -1,0 +1,84 @@
+// One typed message send. The typed faces in platform/ are the only callers.
+//
+// The argument and result types are those of the platform's declaration: a literal 1 for an NSUInteger would
+// travel as an int, so the faces name their parameter types. No message is variadic: the phone passes
+// variadic arguments on the stack, where a fixed-argument callee does not look; the form that takes an array,
+// or none, is used instead.
+#pragma once
+
+#include "objc/encoding.h"
+#include "objc/lookup.h"
+#include "objc/message_ledger.h"
+#include "objc/object.h"
+#include "objc/runtime.h"
+
+namespace rollkeeper {
+
+namespace detail {
+
+template <FixedString name>
+inline constexpr bool isVariadic =
+    name == FixedString("stringWithFormat:") || name == FixedString("initWithFormat:") ||
+    name == FixedString("predicateWithFormat:") || name == FixedString("arrayWithObjects:") ||
+    name == FixedString("dictionaryWithObjectsAndKeys:") || name == FixedString("setWithObjects:");
+
+// Beyond these the phone packs arguments on the stack and the desk pads them.
+template <typename... Arguments> constexpr bool travelsInRegisters() {
+    std::size_t integers = 2;
+    std::size_t floats = 0;
+    const auto count = [&]<typename T>() {
+        if constexpr (std::is_same_v<T, CGRect>) {
+            floats += 4;
+        } else if constexpr (std::is_same_v<T, CGSize> || std::is_same_v<T, CGPoint>) {
+            floats += 2;
+        } else if constexpr (std::is_floating_point_v<T>) {
+            ++floats;
+        } else {
+            ++integers;
+        }
+    };
+    (count.template operator()<Arguments>(), ...);
+    return integers <= 8 && floats <= 8;
+}
+
+template <FixedString name, typename Result, typename... Arguments>
+Result sendMessage(id receiver, Arguments... arguments) {
+    static_assert(!isVariadic<name>,
+                  "no message is variadic: use the form that takes an array or no arguments");
+    static_assert(name.count(':') == sizeof...(Arguments), "a selector has one colon for each argument");
+    static_assert(travelsInRegisters<Arguments...>(), "stack arguments differ between phone and desk");
+    using Function = Result (*)(id, SEL, Arguments...);
+#ifdef __APPLE__
+    return reinterpret_cast<Function>(&objc_msgSend)(receiver, selector<name>(), arguments...);
+#else
+    // The desk's runtime leaves floating-point and struct results of a message to nil undefined.
+    if (!receiver) return Result();
+    const SEL message = selector<name>();
+    return reinterpret_cast<Function>(objc_msgLookup(receiver, message))(receiver, message, arguments...);
+#endif
+}
+
+} // namespace detail
+
+// Sends the instance message `name`, which `Face` declares, to `receiver`. A nil receiver gives zero.
+template <typename Face, FixedString name, typename Result, typename... Arguments>
+Result send(Object receiver, Arguments... arguments) {
+    recordMessage<Face::className, MethodKind::instanceMethod, name, Result, Arguments...>();
+    return detail::sendMessage<name, Result, Arguments...>(receiver.pointer, arguments...);
+}
+
+// Sends the class message `name`, which `Declaring` declares, to the class of `Face`. A class that the
+// process lacks gives zero.
+template <typename Face, typename Declaring, FixedString name, typename Result, typename... Arguments>
+Result sendToSubclass(Arguments... arguments) {
+    recordMessage<Declaring::className, MethodKind::classMethod, name, Result, Arguments...>();
+    return detail::sendMessage<name, Result, Arguments...>(
+        reinterpret_cast<id>(classNamed<Face::className>()), arguments...);
+}
+
+template <typename Face, FixedString name, typename Result, typename... Arguments>
+Result sendToClass(Arguments... arguments) {
+    return sendToSubclass<Face, Face, name, Result>(arguments...);
+}
+
+} // namespace rollkeeper

@@ -1,0 +1,11 @@
+// Installs the rows of the hook table.
+#pragma once
+
+#include "startup/hook_table.h"
+
+namespace rollkeeper {
+
+// Installs the rows of one group, in order. A class or method that this process lacks installs nothing.
+void install(HookGroup group);
+
+} // namespace rollkeeper
