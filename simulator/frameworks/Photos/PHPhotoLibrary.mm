@@ -29,12 +29,8 @@ NSError* errorWithReason(const std::string& reason) {
 NSError* commit(const simulator::Change& change) {
     if (simulator::currentConditions()->faults.refuseLibraryChanges)
         return errorWithReason("the photo library refuses changes");
-    try {
-        simulator::sharedPhotoLibrary().apply(change);
-    } catch (const std::exception& error) {
-        return errorWithReason(error.what());
-    }
-    return nil;
+    const auto failure = simulator::failureOf([&] { simulator::sharedPhotoLibrary().apply(change); });
+    return failure ? errorWithReason(*failure) : nil;
 }
 
 /// On the change queue.

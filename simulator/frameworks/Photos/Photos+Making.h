@@ -3,6 +3,7 @@
 
 #import "Photos/Photos.h"
 
+#include "Photos/LibraryErrors.h"
 #include "photolibrary/library.h"
 
 #include <functional>
@@ -71,13 +72,10 @@ Identifiers identifiersOf(NSArray* strings);
 
 /// Runs `work` with the device's library; an error of the store becomes an NSInternalInconsistencyException.
 template <class Work> auto withLibrary(const Work& work) {
-    std::string message;
-    try {
-        return work(sharedPhotoLibrary());
-    } catch (const std::exception& error) {
-        message = error.what();
-    }
-    raiseLibraryError(message);
+    std::optional<decltype(work(sharedPhotoLibrary()))> result;
+    if (const auto failure = failureOf([&] { result = work(sharedPhotoLibrary()); }))
+        raiseLibraryError(*failure);
+    return *std::move(result);
 }
 
 } // namespace simulator
