@@ -70,9 +70,12 @@ bool LoadedLibrary::contains(const void* address) const {
 }
 
 LoadResult loadLibrary(const std::string& path) {
+    std::error_code problem;
+    if (!std::filesystem::is_regular_file(path, problem))
+        return LoadError{path + (problem ? " cannot be read: " + problem.message() : " is not a file")};
     std::ifstream stream(path, std::ios::binary);
-    const std::vector<char> content{std::istreambuf_iterator<char>(stream), {}};
     if (!stream) return LoadError{path + " cannot be read: " + std::strerror(errno)};
+    const std::vector<char> content{std::istreambuf_iterator<char>(stream), {}};
     const auto bytes = std::as_bytes(std::span(content));
     if (bytes.size() >= sizeof elfMagic && std::memcmp(bytes.data(), elfMagic, sizeof elfMagic) == 0)
         return loadElf(path);

@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// Where a test finds what it loads and starts. Every answer can be replaced by the environment variable of the
-/// same name as the build's definition, for example TEST_LIBRARY_FILE.
+/// Where a test finds what it loads and starts. Every answer can be replaced by the environment variable of
+/// the same name as the build's definition, for example TEST_LIBRARY_FILE.
 namespace simulator::test {
 
 /// "sanitize", "release", "tsan" or "arm64".
@@ -12,8 +12,8 @@ std::string configuration();
 std::string libraryFile();
 /// The program that runs one host application as a process of its own.
 std::string hostProgram();
-/// The command that must precede a program of this build to run it, with its arguments, separated by blanks; empty
-/// when programs run as they are.
+/// The command that must precede a program of this build to run it, with its arguments, separated by blanks;
+/// empty when programs run as they are.
 std::string emulator();
 /// The folder tests/data.
 std::string dataDirectory();
