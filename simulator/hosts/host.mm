@@ -42,9 +42,9 @@ void runOnce(double seconds) {
     }
 }
 
-// A run loop without anything to listen to would not wait.
+// A run loop without anything to listen to would not wait; it does not own its ports.
 void keepMainRunLoopAlive() {
-    [[NSRunLoop currentRunLoop] addPort:[NSPort port] forMode:NSDefaultRunLoopMode];
+    [[NSRunLoop currentRunLoop] addPort:[[NSPort port] retain] forMode:NSDefaultRunLoopMode];
 }
 
 } // namespace
