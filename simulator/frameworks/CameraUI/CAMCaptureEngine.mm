@@ -28,9 +28,10 @@ constexpr CGSize photoPixels = {400, 300};
 }
 
 - (void)_runCaptureThread {
-    // A run loop without a source returns at once, so it gets a port that nothing ever sends to.
+    // A run loop without a source returns at once, so it gets a port that nothing ever sends to; it does not
+    // own it.
     @autoreleasepool {
-        [[NSRunLoop currentRunLoop] addPort:[NSPort port] forMode:NSDefaultRunLoopMode];
+        [[NSRunLoop currentRunLoop] addPort:[[NSPort port] retain] forMode:NSDefaultRunLoopMode];
     }
     for (;;) {
         @autoreleasepool {

@@ -56,6 +56,12 @@
     PUAssetViewModel* model = [[[PUAssetViewModel alloc] initWithAsset:[self _asset]] autorelease];
     [_irisBadge setHidden:[model wantsIrisBadgeVisible] ? NO : YES];
     [self _loadPicture];
+    [[self navigationController] setToolbarHidden:NO];
+}
+
+- (void)viewWillDisappear:(BOOL)animated {
+    [super viewWillDisappear:animated];
+    [[self navigationController] setToolbarHidden:YES];
 }
 
 - (void)_loadPicture {

@@ -130,6 +130,7 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
             [self _itemTitled:@"Delete" action:@selector(_removeButtonPressed:)]
         ];
     [self setToolbarItems:tools animated:NO];
+    [[self navigationController] setToolbarHidden:tools == nil ? YES : NO];
 }
 
 - (NSInteger)collectionView:(UICollectionView*)collectionView numberOfItemsInSection:(NSInteger)section {

@@ -1,5 +1,7 @@
 #include "hosts/applications/camera/camera_app.h"
 
+#import "UIKit/ViewTree.h"
+
 #include "device/threads.h"
 #include "hosts/applications/catalogue.h"
 #include "hosts/applications/common/screen.h"
@@ -27,7 +29,7 @@ CAMViewfinderViewController* viewfinder() {
 
 void takePhoto() {
     const std::size_t before = assetCount();
-    [[[viewfinder() bottomBar] shutterButton] sendActionsForControlEvents:UIControlEventTouchUpInside];
+    tap([[viewfinder() bottomBar] shutterButton]);
     waitForNewAsset(before);
     waitForCaptureThread();
 }

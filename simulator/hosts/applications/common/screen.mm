@@ -15,12 +15,6 @@ UIViewController* childInFront(UIViewController* controller) {
     return nil;
 }
 
-UIBarButtonItem* itemTitled(NSArray* items, NSString* title) {
-    for (UIBarButtonItem* item in items)
-        if ([[item title] isEqualToString:title]) return item;
-    return nil;
-}
-
 } // namespace
 
 UIViewController* controllerOnScreen() {
@@ -28,35 +22,6 @@ UIViewController* controllerOnScreen() {
     while (UIViewController* next = childInFront(controller))
         controller = next;
     return controller;
-}
-
-void tapBarButton(UIViewController* controller, const std::string& title) {
-    UINavigationItem* item = [controller navigationItem];
-    NSArray* sides[] = {[item leftBarButtonItems], [item rightBarButtonItems], [controller toolbarItems]};
-    for (NSArray* side : sides) {
-        UIBarButtonItem* button = itemTitled(side, string(title));
-        if (button == nil) continue;
-        [[UIApplication sharedApplication] sendAction:[button action]
-                                                   to:[button target]
-                                                 from:button
-                                             forEvent:nil];
-        return;
-    }
-    throw std::runtime_error("no button \"" + title + "\" in the bars of " +
-                             text([[controller class] description]));
-}
-
-void tapAlertAction(const std::string& title) {
-    UIViewController* front = controllerOnScreen();
-    if (![front isKindOfClass:[UIAlertController class]])
-        throw std::runtime_error("no alert is on the screen to tap \"" + title + "\"");
-    auto alert = static_cast<UIAlertController*>(front);
-    for (UIAlertAction* action in [alert actions]) {
-        if (![[action title] isEqualToString:string(title)]) continue;
-        [alert tapAction:action];
-        return;
-    }
-    throw std::runtime_error("the alert \"" + text([alert title]) + "\" has no action \"" + title + "\"");
 }
 
 void waitUntil(const std::function<bool()>& condition, const std::string& what, double timeout) {

@@ -1,5 +1,5 @@
 /// What a user does in Photos. Main thread; the running application must be Photos. Whatever is not on the
-/// screen as the action needs it throws std::runtime_error saying so.
+/// screen as the action needs it throws std::exception saying so.
 #pragma once
 
 #import "PhotosUI/PhotosUI.h"
@@ -51,19 +51,19 @@ PUZoomableGridViewController* openMoments();
 /// Taps Select and then the photos, by their places in the grid.
 void selectPhotos(PUPhotosGridViewController* grid, const std::vector<std::size_t>& places);
 
-/// Taps Add To and gives the list in which the user chooses the album.
-PUAlbumListViewController* addSelectionToAlbum(PUPhotosGridViewController* grid);
+/// Taps Add To in the grid on the screen and gives the list in which the user chooses the album.
+PUAlbumListViewController* addSelectionToAlbum();
 
 /// Taps a photo outside selection mode and gives the screen with it.
 PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t place);
 
-/// Taps Share and gives the screen with the selected photos.
-PUPhotosSharingViewController* shareSelection(PUPhotosGridViewController* grid);
+/// Taps Share in the grid on the screen and gives the screen with the selected photos.
+PUPhotosSharingViewController* shareSelection();
 
-/// Verbs: "albums", "openAlbum" {"title"}, "tapAlbum" {"title"}, "editAlbums" {"editing"}, "deleteAlbum"
-/// {"title"}, "openMoments", "selectPhotos" {"places"}, "addSelection", "removeSelection", "openPhoto"
-/// {"place"}, "tapBarButton"
-/// {"title"}, "tapAlert" {"title"}, "enterBackground", "enterForeground".
+/// Verbs beside those that every application has: "albums", "openAlbum" {"title"}, "tapAlbum" {"title"},
+/// "editAlbums"
+/// {"editing"}, "deleteAlbum" {"title"}, "openMoments", "selectPhotos" {"places"}, "addSelection",
+/// "removeSelection", "openPhoto" {"place"}, "shareSelection".
 void addVerbs();
 
 } // namespace simulator::photos

@@ -1,5 +1,7 @@
 #include "hosts/applications/photos/photos_app.h"
 
+#import "UIKit/ViewTree.h"
+
 #include "hosts/applications/common/screen.h"
 
 #include <stdexcept>
@@ -34,8 +36,8 @@ void tapItem(UICollectionView* collection, NSIndexPath* path) {
     scrollTo(collection, path);
     UICollectionViewCell* cell = [collection cellForItemAtIndexPath:path];
     if (cell == nil) throw std::runtime_error("nothing is shown at place " + std::to_string([path item]));
-    tap(cell);
-    layOutScreen();
+    if (![tap(cell) isDescendantOfView:cell])
+        throw std::runtime_error("something lies over place " + std::to_string([path item]));
 }
 
 } // namespace
@@ -112,14 +114,15 @@ PUPhotosAlbumViewController* openAlbum(const std::string& title) {
 
 void setEditing(bool editing) {
     PUAlbumListViewController* list = albumList();
-    if ([list isEditing] != (editing ? YES : NO)) tapBarButton(list, editing ? "Edit" : "Done");
+    if ([list isEditing] != (editing ? YES : NO)) tapBarButton(editing ? "Edit" : "Done");
     layOutScreen();
 }
 
 void tapDeleteAlbum(const std::string& title) {
     UIButton* button = [[albumCell(albumList(), title) albumListCellContentView] _deleteButton];
     if (button == nil) throw std::runtime_error("the album \"" + title + "\" has no delete button now");
-    [button sendActionsForControlEvents:UIControlEventTouchUpInside];
+    if (tap(button) != button)
+        throw std::runtime_error("the delete button of \"" + title + "\" cannot be touched");
 }
 
 PUZoomableGridViewController* openMoments() {
@@ -130,13 +133,13 @@ PUZoomableGridViewController* openMoments() {
 }
 
 void selectPhotos(PUPhotosGridViewController* grid, const std::vector<std::size_t>& places) {
-    if (![grid isEditing]) tapBarButton(grid, "Select");
+    if (![grid isEditing]) tapBarButton("Select");
     for (std::size_t place : places)
         tapItem([grid collectionView], pathAt(place));
 }
 
-PUAlbumListViewController* addSelectionToAlbum(PUPhotosGridViewController* grid) {
-    tapBarButton(grid, "Add To");
+PUAlbumListViewController* addSelectionToAlbum() {
+    tapBarButton("Add To");
     layOutScreen();
     return albumList();
 }
@@ -146,8 +149,8 @@ PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t p
     return onScreenAs<PUOneUpViewController>("the one-up view");
 }
 
-PUPhotosSharingViewController* shareSelection(PUPhotosGridViewController* grid) {
-    tapBarButton(grid, "Share");
+PUPhotosSharingViewController* shareSelection() {
+    tapBarButton("Share");
     layOutScreen();
     return onScreenAs<PUPhotosSharingViewController>("the sharing screen");
 }

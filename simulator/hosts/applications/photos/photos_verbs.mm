@@ -1,5 +1,7 @@
 #include "hosts/applications/photos/photos_app.h"
 
+#import "UIKit/ViewTree.h"
+
 #include "hosts/applications/common/screen.h"
 #include "hosts/host.h"
 
@@ -32,21 +34,17 @@ const struct {
          selectPhotos(front<PUPhotosGridViewController>(),
                       request.at("places").get<std::vector<std::size_t>>());
      }},
-    {"addSelection", [](const json&) { addSelectionToAlbum(front<PUPhotosGridViewController>()); }},
+    {"addSelection", [](const json&) { addSelectionToAlbum(); }},
     {"removeSelection",
      [](const json&) {
          auto* grid = front<PUPhotosGridViewController>();
-         tapBarButton(grid, [grid showsTrash] ? "Recover" : "Delete");
+         tapBarButton([grid showsTrash] ? "Recover" : "Delete");
      }},
     {"openPhoto",
      [](const json& request) {
          openPhoto(front<PUPhotosGridViewController>(), request.at("place").get<std::size_t>());
      }},
-    {"shareSelection", [](const json&) { shareSelection(front<PUPhotosGridViewController>()); }},
-    {"tapBarButton", [](const json& request) { tapBarButton(controllerOnScreen(), title(request)); }},
-    {"tapAlert", [](const json& request) { tapAlertAction(title(request)); }},
-    {"enterBackground", [](const json&) { [application() enterBackground]; }},
-    {"enterForeground", [](const json&) { [application() enterForeground]; }},
+    {"shareSelection", [](const json&) { shareSelection(); }},
 };
 
 } // namespace

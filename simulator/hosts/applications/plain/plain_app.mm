@@ -1,5 +1,7 @@
 #include "hosts/applications/plain/plain_app.h"
 
+#import "UIKit/ViewTree.h"
+
 #include "hosts/applications/common/screen.h"
 #include "hosts/applications/pickers.h"
 #include "hosts/host.h"
@@ -22,7 +24,7 @@ PlainViewController* screen() { return [[navigation() viewControllers] firstObje
 
 UIActivityViewController* share() {
     [navigation() popToRootViewControllerAnimated:NO];
-    tapBarButton(screen(), "Share");
+    tapBarButton("Share");
     UIViewController* sheet = [screen() presentedViewController];
     if (![sheet isKindOfClass:[UIActivityViewController class]])
         throw std::runtime_error("the share sheet did not open");
@@ -39,7 +41,7 @@ void saveImage() {
 
 nlohmann::json listPicker() {
     [navigation() popToRootViewControllerAnimated:NO];
-    tapBarButton(screen(), "Pick");
+    tapBarButton("Pick");
     return pickers::list();
 }
 
