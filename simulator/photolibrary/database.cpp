@@ -100,7 +100,7 @@ Connection::Connection(const std::filesystem::path& file) {
         // A write-ahead log lets others read during a change. A killed process loses nothing that it
         // committed; only the desk's own power failing could, and a simulated device is not worth waiting for
         // the disk.
-        execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON;");
+        execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = WAL; PRAGMA foreign_keys = ON;");
     } catch (...) {
         sqlite3_close(m_database);
         throw;
