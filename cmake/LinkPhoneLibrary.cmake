@@ -14,6 +14,6 @@ foreach(object IN LISTS OBJECTS)
     list(APPEND stripped "${copy}")
 endforeach()
 
-execute_process(COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 -dylib -adhoc_codesign -dead_strip -x
+execute_process(COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 -dylib -adhoc_codesign -dead_strip -x -no_encryption
     -fatal_warnings -install_name "${INSTALL_NAME}" -o "${LIBRARY}" ${stripped} ${STUBS}
     COMMAND_ERROR_IS_FATAL ANY)
