@@ -16,8 +16,7 @@ namespace {
 
 using nlohmann::json;
 
-template <class Value, std::size_t size>
-using Names = std::array<std::pair<Value, const char*>, size>;
+template <class Value, std::size_t size> using Names = std::array<std::pair<Value, const char*>, size>;
 
 constexpr Names<Idiom, 2> idiomNames = {{{Idiom::phone, "phone"}, {Idiom::pad, "pad"}}};
 constexpr Names<BiometricOutcome, 6> outcomeNames = {
@@ -28,15 +27,13 @@ constexpr Names<BiometricOutcome, 6> outcomeNames = {
      {BiometricOutcome::notAvailable, "notAvailable"},
      {BiometricOutcome::refusedWithoutError, "refusedWithoutError"}}};
 
-template <class Value, std::size_t size>
-std::string nameOf(const Names<Value, size>& names, Value value) {
+template <class Value, std::size_t size> std::string nameOf(const Names<Value, size>& names, Value value) {
     for (const auto& [candidate, name] : names)
         if (candidate == value) return name;
     throw std::invalid_argument("conditions: a value has no name");
 }
 
-template <class Value, std::size_t size>
-Value valueOf(const Names<Value, size>& names, const json& name) {
+template <class Value, std::size_t size> Value valueOf(const Names<Value, size>& names, const json& name) {
     for (const auto& [value, candidate] : names)
         if (name == candidate) return value;
     throw std::invalid_argument("unknown value " + name.dump());
@@ -50,8 +47,7 @@ Release releaseFrom(const json& name) {
 
 using Readers = std::vector<std::pair<std::string_view, std::function<void(const json&)>>>;
 
-template <class Value>
-std::function<void(const json&)> into(Value& target) {
+template <class Value> std::function<void(const json&)> into(Value& target) {
     return [&target](const json& value) { value.get_to(target); };
 }
 

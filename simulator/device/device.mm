@@ -1,5 +1,8 @@
 #include "device/device.h"
 
+#include "device/json_objects.h"
+#include "frameworks/Foundation/PropertyLists.h"
+
 #import <Foundation/Foundation.h>
 
 #include <fstream>
@@ -10,58 +13,6 @@ namespace simulator {
 namespace {
 
 using nlohmann::json;
-
-NSString* toString(const std::string& text) {
-    NSString* made = [[[NSString alloc] initWithBytes:text.data()
-                                               length:text.size()
-                                             encoding:NSUTF8StringEncoding] autorelease];
-    if (made == nil) throw std::invalid_argument("a text is no UTF-8");
-    return made;
-}
-
-id toPropertyList(const json& value) {
-    if (value.is_string()) return toString(value.get<std::string>());
-    if (value.is_boolean()) return [NSNumber numberWithBool:value.get<bool>() ? YES : NO];
-    if (value.is_number_integer()) return [NSNumber numberWithLongLong:value.get<long long>()];
-    if (value.is_number_float()) return [NSNumber numberWithDouble:value.get<double>()];
-    if (value.is_array()) {
-        NSMutableArray* array = [NSMutableArray array];
-        for (const json& element : value)
-            [array addObject:toPropertyList(element)];
-        return array;
-    }
-    if (value.is_object()) {
-        NSMutableDictionary* dictionary = [NSMutableDictionary dictionary];
-        for (const auto& [key, element] : value.items())
-            [dictionary setObject:toPropertyList(element) forKey:toString(key)];
-        return dictionary;
-    }
-    throw std::invalid_argument("a property list cannot hold " + value.dump());
-}
-
-json toJsonValue(id value) {
-    if ([value isKindOfClass:[NSString class]]) return [value UTF8String];
-    if ([value isKindOfClass:[NSNumber class]]) {
-        const char type = *[value objCType];
-        if (value == [NSNumber numberWithBool:YES] || value == [NSNumber numberWithBool:NO])
-            return static_cast<bool>([value boolValue]);
-        return type == 'd' || type == 'f' ? json([value doubleValue]) : json([value longLongValue]);
-    }
-    if ([value isKindOfClass:[NSArray class]]) {
-        json array = json::array();
-        for (id element in static_cast<NSArray*>(value))
-            array.push_back(toJsonValue(element));
-        return array;
-    }
-    if ([value isKindOfClass:[NSDictionary class]]) {
-        json object = json::object();
-        for (NSString* key in static_cast<NSDictionary*>(value))
-            object[[key UTF8String]] = toJsonValue([value objectForKey:key]);
-        return object;
-    }
-    throw std::invalid_argument(std::string("JSON cannot hold a ") +
-                                [[[value class] description] UTF8String]);
-}
 
 // Never half a file: others may read at any time.
 void writeAtomically(const std::filesystem::path& file, std::string_view bytes) {
@@ -122,11 +73,7 @@ void Device::changeConditions(const std::function<void(Conditions&)>& change) co
 
 void Device::writePropertyList(std::string_view devicePath, const json& value) const {
     @autoreleasepool {
-        NSString* problem = nil;
-        NSData* data = [NSPropertyListSerialization dataFromPropertyList:toPropertyList(value)
-                                                                  format:NSPropertyListXMLFormat_v1_0
-                                                        errorDescription:&problem];
-        if (data == nil) throw std::invalid_argument([problem UTF8String]);
+        NSData* data = propertyListAsXml(objectFromJson(value));
         writeFile(devicePath, {static_cast<const char*>([data bytes]), [data length]});
     }
 }
@@ -142,7 +89,7 @@ json Device::readPropertyList(std::string_view devicePath) const {
                                                               format:&format
                                                     errorDescription:&problem];
         if (value == nil) throw std::invalid_argument(std::string(devicePath) + " is no property list");
-        return toJsonValue(value);
+        return jsonFromObject(value);
     }
 }
 

@@ -13,16 +13,14 @@ namespace simulator {
 struct FunctionName {
     char text[48]{};
 
-    template <std::size_t size>
-    consteval FunctionName(const char (&name)[size]) {
+    template <std::size_t size> consteval FunctionName(const char (&name)[size]) {
         static_assert(size <= sizeof text);
         for (std::size_t i = 0; i < size; ++i)
             text[i] = name[i];
     }
 };
 
-template <FunctionName name, class Function>
-Function* nextFunction() {
+template <FunctionName name, class Function> Function* nextFunction() {
     static Function* const found = [] {
         void* address = dlsym(RTLD_NEXT, name.text);
         if (address == nullptr) {

@@ -103,36 +103,31 @@ bool descriptorIsOnFullDisk(int descriptor) {
 bool opensForReading(int flags) { return (flags & O_ACCMODE) != O_WRONLY; }
 bool takesMode(int flags) { return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE; }
 
-template <class Result>
-Result failing(int error, Result result) {
+template <class Result> Result failing(int error, Result result) {
     errno = error;
     return result;
 }
 
-template <FunctionName name>
-int openNext(const char* given, int flags, mode_t mode) {
+template <FunctionName name> int openNext(const char* given, int flags, mode_t mode) {
     const Path path(given);
     if (path.isUnreadable() && opensForReading(flags)) return failing(EACCES, -1);
     return nextFunction<name, int(const char*, int, ...)>()(path, flags, mode);
 }
 
-template <FunctionName name>
-int openAtNext(int folder, const char* given, int flags, mode_t mode) {
+template <FunctionName name> int openAtNext(int folder, const char* given, int flags, mode_t mode) {
     const Path path(given);
     if (path.isUnreadable() && opensForReading(flags)) return failing(EACCES, -1);
     return nextFunction<name, int(int, const char*, int, ...)>()(folder, path, flags, mode);
 }
 
-template <FunctionName name>
-FILE* openStreamNext(const char* given, const char* mode) {
+template <FunctionName name> FILE* openStreamNext(const char* given, const char* mode) {
     const Path path(given);
     if (path.isUnreadable() && std::strpbrk(mode, "r+") != nullptr) return failing<FILE*>(EACCES, nullptr);
     return nextFunction<name, FILE*(const char*, const char*)>()(path, mode);
 }
 
 // The template is the caller's to read afterwards: the letters chosen for its end are copied back.
-template <FunctionName name>
-int makeTemporaryNext(char* givenTemplate) {
+template <FunctionName name> int makeTemporaryNext(char* givenTemplate) {
     const Path path(givenTemplate);
     std::string resolved(static_cast<const char*>(path));
     const int descriptor = nextFunction<name, int(char*)>()(resolved.data());

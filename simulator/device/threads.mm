@@ -1,12 +1,12 @@
 #include "device/threads.h"
 
+#include "device/exceptions.h"
+
 #import <Foundation/Foundation.h>
 #import <GNUstepBase/NSThread+GNUstepBase.h>
 
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
-#include <memory>
 
 // A function as an object, so that a run loop can carry it.
 @interface SimulatorWork : NSObject {
@@ -29,35 +29,14 @@
 @end
 
 namespace simulator {
-namespace {
-
-[[noreturn]] void endWith(const char* kind, const char* text) {
-    std::fprintf(stderr, "*** Terminating application due to uncaught exception '%s', reason: '%s'\n", kind,
-                 text);
-    std::fflush(stderr);
-    std::abort();
-}
-
-void endWithCurrentException() {
-    try {
-        throw;
-    } catch (const std::exception& error) {
-        endWith("C++ exception", error.what());
-    }
-}
-
-} // namespace
-
 void runAsEvent(const std::function<void()>& work) {
-    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    @try {
-        work();
-    } @catch (NSException* exception) {
-        endWith([[exception name] UTF8String], [[exception reason] UTF8String]);
-    } @catch (...) {
-        endWithCurrentException();
+    @autoreleasepool {
+        const auto exception = anyExceptionOf(work);
+        if (!exception) return;
+        std::fprintf(stderr, "*** Terminating application due to uncaught exception %s\n",
+                     exception->c_str());
+        std::abort();
     }
-    [pool release];
 }
 
 void performOnThread(NSThread* thread, std::function<void()> work) {

@@ -5,8 +5,7 @@
 namespace simulator {
 namespace {
 
-template <class Value>
-using Registry = std::map<std::string, Value, std::less<>>;
+template <class Value> using Registry = std::map<std::string, Value, std::less<>>;
 
 // Filled by static initialisers in no certain order.
 Registry<Application>& applications() {

@@ -1,7 +1,10 @@
 // The verbs that every host has.
 #include "device/clock.h"
+#include "device/json_objects.h"
 #include "device/releases.h"
+#include "frameworks/AppSupport/AppSupport.h"
 #include "frameworks/CoreFoundation/CoreFoundation.h"
+#include "frameworks/RocketBootstrap/RocketBootstrap.h"
 #include "hosts/host.h"
 #include "loader/loader.h"
 
@@ -43,10 +46,18 @@ json advanceClock(const json& request) {
 }
 
 json postNotification(const json& request) {
-    NSString* name = [NSString stringWithUTF8String:request.at("name").get<std::string>().c_str()];
+    NSString* name = objectFromJson(request.at("name"));
     CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(),
                                          reinterpret_cast<CFStringRef>(name), nullptr, nullptr, true);
     return json::object();
+}
+
+json sendMessage(const json& request) {
+    NSString* name = objectFromJson(request.at("centre"));
+    CPDistributedMessagingCenter* centre = [CPDistributedMessagingCenter centerNamed:name];
+    if (request.value("unlock", false)) rocketbootstrap_distributedmessagingcenter_apply(centre);
+    id userInfo = request.contains("userInfo") ? objectFromJson(request["userInfo"]) : nil;
+    return {{"sent", [centre sendMessageName:objectFromJson(request.at("name")) userInfo:userInfo] != NO}};
 }
 
 __attribute__((constructor)) void registerVerbs() {
@@ -54,6 +65,7 @@ __attribute__((constructor)) void registerVerbs() {
     registerVerb("hooks", hooks);
     registerVerb("advanceClock", advanceClock);
     registerVerb("postNotification", postNotification);
+    registerVerb("sendMessage", sendMessage);
 }
 
 } // namespace

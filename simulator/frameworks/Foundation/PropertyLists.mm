@@ -2,7 +2,9 @@
 
 #include "frameworks/ObjectiveC/Replacement.h"
 
+#include <cstring>
 #include <initializer_list>
+#include <string>
 
 namespace simulator {
 namespace {
@@ -13,14 +15,71 @@ bool isLeaf(id value) {
     return false;
 }
 
-// GNUstep writes the old style, or an empty file when the texts are not plain ASCII; the device writes XML.
+const char* entityFor(char letter) {
+    switch (letter) {
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '&':
+        return "&amp;";
+    default:
+        return nullptr;
+    }
+}
+
+std::string escaped(NSString* text) {
+    NSData* bytes = [text dataUsingEncoding:NSUTF8StringEncoding];
+    std::string result;
+    for (const char letter : std::string_view(static_cast<const char*>([bytes bytes]), [bytes length]))
+        if (const char* entity = entityFor(letter))
+            result += entity;
+        else
+            result += letter;
+    return result;
+}
+
+std::string element(const std::string& name, const std::string& content) {
+    return "<" + name + ">" + content + "</" + name + ">\n";
+}
+
+std::string numberElement(NSNumber* number) {
+    if (number == [NSNumber numberWithBool:YES]) return "<true/>\n";
+    if (number == [NSNumber numberWithBool:NO]) return "<false/>\n";
+    const bool isReal = std::strchr("df", *[number objCType]) != nullptr;
+    return element(isReal ? "real" : "integer", escaped([number stringValue]));
+}
+
+std::string leafElement(id value) {
+    if ([value isKindOfClass:[NSString class]]) return element("string", escaped(value));
+    if ([value isKindOfClass:[NSNumber class]]) return numberElement(value);
+    if ([value isKindOfClass:[NSData class]])
+        return element("data", escaped([value base64EncodedStringWithOptions:0]));
+    NSString* date = [value descriptionWithCalendarFormat:@"%Y-%m-%dT%H:%M:%SZ"
+                                                 timeZone:[NSTimeZone timeZoneWithName:@"UTC"]
+                                                   locale:nil];
+    return element("date", escaped(date));
+}
+
+std::string elementFor(id value, const std::string& indent) {
+    const std::string inner = indent + "\t";
+    if ([value isKindOfClass:[NSArray class]]) {
+        std::string text = indent + "<array>\n";
+        for (id each in static_cast<NSArray*>(value))
+            text += elementFor(each, inner);
+        return text + indent + "</array>\n";
+    }
+    if ([value isKindOfClass:[NSDictionary class]]) {
+        std::string text = indent + "<dict>\n";
+        for (NSString* key in [[value allKeys] sortedArrayUsingSelector:@selector(compare:)])
+            text += inner + element("key", escaped(key)) + elementFor([value objectForKey:key], inner);
+        return text + indent + "</dict>\n";
+    }
+    return indent + leafElement(value);
+}
+
 BOOL writeToFile(id self, SEL, NSString* path, BOOL atomically) {
-    if (!isPropertyList(self)) return NO;
-    NSString* problem = nil;
-    NSData* data = [NSPropertyListSerialization dataFromPropertyList:self
-                                                              format:NSPropertyListXMLFormat_v1_0
-                                                    errorDescription:&problem];
-    return [data writeToFile:path atomically:atomically];
+    return [propertyListAsXml(self) writeToFile:path atomically:atomically];
 }
 
 __attribute__((constructor)) void writeAsTheDeviceDoes() {
@@ -32,8 +91,8 @@ __attribute__((constructor)) void writeAsTheDeviceDoes() {
 
 bool isPropertyList(id value) {
     if ([value isKindOfClass:[NSArray class]]) {
-        for (id element in static_cast<NSArray*>(value))
-            if (!isPropertyList(element)) return false;
+        for (id each in static_cast<NSArray*>(value))
+            if (!isPropertyList(each)) return false;
         return true;
     }
     if ([value isKindOfClass:[NSDictionary class]]) {
@@ -43,6 +102,16 @@ bool isPropertyList(id value) {
         return true;
     }
     return isLeaf(value);
+}
+
+NSData* propertyListAsXml(id value) {
+    if (!isPropertyList(value)) return nil;
+    const std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                             "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                             "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                             "<plist version=\"1.0\">\n" +
+                             elementFor(value, "") + "</plist>\n";
+    return [NSData dataWithBytes:text.data() length:text.size()];
 }
 
 } // namespace simulator

@@ -21,6 +21,8 @@ extern NSString* const LAErrorDomain;
 
 @interface LAContext : NSObject
 - (BOOL)canEvaluatePolicy:(LAPolicy)policy error:(NSError**)error;
+// In no release: exists in the complete profile alone.
+- (BOOL)canEvaluatePolicy:(LAPolicy)policy;
 // The reply runs on a queue of the framework's own, never on the caller's thread. An empty reason raises.
 - (void)evaluatePolicy:(LAPolicy)policy
        localizedReason:(NSString*)localizedReason

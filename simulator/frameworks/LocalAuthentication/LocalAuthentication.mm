@@ -70,6 +70,10 @@ std::vector<std::string> simulator::authenticationReasons() {
     return available ? YES : NO;
 }
 
+- (BOOL)canEvaluatePolicy:(LAPolicy)policy {
+    return [self canEvaluatePolicy:policy error:NULL];
+}
+
 - (void)evaluatePolicy:(LAPolicy)policy
        localizedReason:(NSString*)localizedReason
                  reply:(void (^)(BOOL success, NSError* error))reply {

@@ -1,14 +1,12 @@
 #include "hosts/control_socket.h"
 
+#include "device/exceptions.h"
 #include "device/local_sockets.h"
 #include "device/threads.h"
 #include "hosts/host.h"
 
-#import <Foundation/Foundation.h>
-
 #include <sys/socket.h>
 
-#include <exception>
 #include <future>
 #include <memory>
 #include <thread>
@@ -18,21 +16,10 @@ namespace {
 
 using nlohmann::json;
 
-json answered(const json& request) {
-    @try {
-        return performVerb(request);
-    } @catch (NSException* exception) {
-        return {
-            {"error", std::string([[exception name] UTF8String]) + ": " + [[exception reason] UTF8String]}};
-    }
-}
-
 json answer(const std::string& line) {
-    try {
-        return answered(json::parse(line));
-    } catch (const std::exception& error) {
-        return {{"error", error.what()}};
-    }
+    json result;
+    const auto exception = anyExceptionOf([&] { result = performVerb(json::parse(line)); });
+    return exception ? json{{"error", *exception}} : result;
 }
 
 std::string answerOnMainThread(const std::string& line) {
