@@ -1,0 +1,109 @@
+// Which methods the library replaces and adds in which host.
+#include "support/library_test.h"
+#include "support/table.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <set>
+
+namespace simulator::test {
+namespace {
+
+struct HostCase {
+    const char* bundleIdentifier;
+    const char* group; // null: none of its own
+    Release release = Release::complete;
+    std::optional<double> coreFoundationVersion = {};
+};
+
+std::ostream& operator<<(std::ostream& out, const HostCase& host) {
+    return out << host.bundleIdentifier << " on " << host.coreFoundationVersion.value_or(0);
+}
+
+std::vector<TableRow> expectedRows(const HostCase& host) {
+    std::vector<TableRow> expected;
+    const bool isShared = host.bundleIdentifier != std::string(host::jolly);
+    const bool isIos10 = host.coreFoundationVersion.value_or(1349.56) >= 1300.0;
+    for (const TableRow& row : readTable("hook-table.tsv")) {
+        const std::string& group = row.at("group");
+        const bool isOwn = host.group != nullptr && group == host.group;
+        const bool fromShared = isShared && (group == "shared" || (group == "sharedFromIos10" && isIos10));
+        if (isOwn || fromShared) expected.push_back(row);
+    }
+    return expected;
+}
+
+std::string describe(const TableRow& row) {
+    return row.at("action") + " " + row.at("class") + " " + row.at("kind") + row.at("selector");
+}
+
+std::string describe(const Installation& installation) {
+    const bool isReplaced = installation.kind == Installation::Kind::replaced;
+    return std::string(isReplaced ? "replace " : "add ") + installation.className + " " + installation.methodKind +
+           installation.selector;
+}
+
+// The library's own class is no method of a host.
+std::vector<Installation> hostInstallations(const Host& running) {
+    std::vector<Installation> found;
+    std::ranges::copy_if(running.installations(), std::back_inserter(found),
+                         [](const Installation& each) { return each.className != "RKFlowLayout"; });
+    return found;
+}
+
+class HookTable : public LibraryTest, public testing::WithParamInterface<HostCase> {};
+
+TEST_P(HookTable, IsInstalledInOrderWithOwnSlots) {
+    change([](Conditions& conditions) {
+        conditions.release = GetParam().release;
+        conditions.coreFoundationVersion = GetParam().coreFoundationVersion;
+    });
+    const auto installed = hostInstallations(start(GetParam().bundleIdentifier));
+
+    std::vector<std::string> expected;
+    for (const TableRow& row : expectedRows(GetParam())) expected.push_back(describe(row));
+    // A class that the host lacks is given as nil, which leaves no name: such rows are told by their selector.
+    std::vector<std::string> found;
+    std::set<const void*> slots;
+    std::size_t replaced = 0;
+    for (std::size_t index = 0; index < installed.size(); ++index) {
+        Installation named = installed[index];
+        if (named.className.empty() && index < expected.size())
+            named.className = expectedRows(GetParam())[index].at("class");
+        if (named.methodKind != '+' && index < expected.size() && installed[index].className.empty())
+            named.methodKind = expectedRows(GetParam())[index].at("kind")[0];
+        found.push_back(describe(named));
+        if (named.kind != Installation::Kind::replaced) continue;
+        ++replaced;
+        slots.insert(named.slot);
+    }
+    EXPECT_THAT(found, testing::ElementsAreArray(expected));
+    EXPECT_EQ(slots.size(), replaced) << "two replacements share a slot";
+}
+
+TEST_P(HookTable, AddsMethodsWithTheirEncodings) {
+    change([](Conditions& conditions) { conditions.release = Release::complete; });
+    const auto installed = hostInstallations(start(GetParam().bundleIdentifier));
+    for (const TableRow& row : expectedRows(GetParam())) {
+        if (row.at("action") != "add") continue;
+        const auto same = [&](const Installation& each) {
+            return each.className == row.at("class") && each.selector == row.at("selector");
+        };
+        const auto added = std::ranges::find_if(installed, same);
+        if (added == installed.end()) continue; // a class that this host lacks
+        EXPECT_EQ(added->encoding, row.at("encoding")) << describe(row);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Hosts, HookTable,
+                         testing::Values(HostCase{host::camera, "camera"}, HostCase{host::photos, "photos"},
+                                         HostCase{host::messenger, "messenger"}, HostCase{host::whatsApp, "whatsapp"},
+                                         HostCase{host::imgur, "imgur"}, HostCase{host::springBoard, "springboard"},
+                                         HostCase{host::settings, nullptr}, HostCase{host::plain, nullptr},
+                                         HostCase{host::jolly, nullptr},
+                                         HostCase{host::whatsApp, "whatsapp", Release::complete, 1299.9},
+                                         HostCase{host::plain, nullptr, Release::complete, 1300.0}));
+
+} // namespace
+} // namespace simulator::test

@@ -1,0 +1,80 @@
+// A device of its own for each test, with the small sample library, on which the library under test runs inside a
+// host application in the test's process.
+#pragma once
+
+#include "device/device.h"
+#include "hosts/client.h"
+#include "hosts/host.h"
+#include "photolibrary/library.h"
+
+#import <Foundation/Foundation.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace simulator::test {
+
+namespace host {
+inline constexpr const char* camera = "com.apple.camera";
+inline constexpr const char* photos = "com.apple.mobileslideshow";
+inline constexpr const char* settings = "com.apple.Preferences";
+inline constexpr const char* springBoard = "com.apple.springboard";
+inline constexpr const char* messenger = "com.facebook.Messenger";
+inline constexpr const char* whatsApp = "net.whatsapp.WhatsApp";
+inline constexpr const char* imgur = "imgurmobile";
+inline constexpr const char* jolly = "com.apple.store.Jolly";
+inline constexpr const char* plain = "com.example.plain";
+} // namespace host
+
+namespace file {
+inline constexpr const char* preferences = "/var/mobile/Library/Preferences/com.nrv.rollkeeperprefs.plist";
+inline constexpr const char* stateFolder = "/var/mobile/Library/rollkeeper";
+inline constexpr const char* cameraAlbum = "/var/mobile/Library/rollkeeper/album.tct";
+inline constexpr const char* lockedAlbums = "/var/mobile/Library/rollkeeper/lockedAlbums.plist";
+inline constexpr const char* password = "/var/mobile/Library/rollkeeper/settings.tct";
+} // namespace file
+
+class LibraryTest : public testing::Test {
+  protected:
+    LibraryTest();
+    ~LibraryTest() override;
+
+    const Device& device() const { return m_device; }
+    PhotoLibrary& library() { return *m_library; }
+
+    void writePreferences(const nlohmann::json& preferences);
+    // Writes them and posts the notification, as the settings pane does, and lets it arrive.
+    void reloadPreferences(const nlohmann::json& preferences);
+    void lockAlbums(const std::vector<std::string>& titles);
+    // The list in the file; nothing when there is no file.
+    std::optional<std::vector<std::string>> lockedAlbums() const;
+    void change(const std::function<void(Conditions&)>& edit) { m_device.changeConditions(edit); }
+
+    // Starts the application with the library under test, in this process.
+    Host& start(const std::string& bundleIdentifier);
+    // The same in a process of its own, and without the library.
+    HostProcess startProcess(const std::string& bundleIdentifier, bool withLibrary = true);
+    // The process that writes state files for all others; runs until the test ends.
+    HostProcess& startSpringBoard();
+    Host& host() { return *m_host; }
+
+    // Waits on the main run loop; a failure of the test when it was in vain.
+    void waitFor(const std::function<bool()>& condition);
+    // Runs what the main run loop has waiting, and gives other processes a moment to answer.
+    void settle() { m_host->spin(0.2); }
+
+  private:
+    NSAutoreleasePool* m_pool;
+    std::filesystem::path m_folder;
+    Device m_device;
+    std::unique_ptr<PhotoLibrary> m_library;
+    std::optional<Host> m_host;
+    std::optional<HostProcess> m_springBoard;
+};
+
+} // namespace simulator::test
