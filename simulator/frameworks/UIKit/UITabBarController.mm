@@ -56,6 +56,11 @@ struct TabState {
     [super layoutSubviews];
 }
 
+// No release has this name; the complete device does.
+- (BOOL)hidden {
+    return [self isHidden];
+}
+
 @end
 
 @implementation UITabBarController
