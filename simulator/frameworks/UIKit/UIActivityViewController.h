@@ -23,7 +23,7 @@
 
 // The activities that can perform with the items: the system's own, then the application's.
 - (NSArray*)offeredActivities;
-// Prepares and performs the offered activity of that title; the sheet goes when it has finished. NO when no
+// Prepares and performs the offered activity of that title; the sheet goes first. NO when no
 // offered activity has the title.
 - (BOOL)chooseActivityWithTitle:(NSString*)title;
 

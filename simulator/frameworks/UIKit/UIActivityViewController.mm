@@ -72,13 +72,16 @@ using simulator::mainThreadOnly;
     [activity setFinishHandler:^(BOOL completed) {
         [static_cast<UIActivityViewController*>(alive.get()) finished:chosen.get() completed:completed];
     }];
-    [activity performActivity];
+    // The sheet makes way first, so that the activity may present something of its own.
+    [self dismissViewControllerAnimated:YES
+                             completion:^{
+                                 [chosen.get() performActivity];
+                             }];
 }
 
 - (void)finished:(UIActivity*)activity completed:(BOOL)completed {
     const simulator::Retained<UIActivity*> alive(activity);
     [activity setFinishHandler:nil]; // it holds this sheet and the activity
-    [[self presentingViewController] dismissViewControllerAnimated:YES completion:nil];
     if (_completion) _completion([activity activityType], completed, nil, nil);
 }
 
