@@ -11,9 +11,8 @@ function(add_phone_library name sources options)
     target_include_directories(${name}_objects PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_compile_definitions(${name}_objects PRIVATE _GNU_SOURCE)
     # The order of the headers is meant: our configuration of libc++, libc++, then a C library; musl declares the few
-    # plain C functions that we import just as the phone does. With -Oz the compiler would leave out DWARF's unwind
-    # information whatever it is told.
-    target_compile_options(${name}_objects PRIVATE ${options} -Os -fno-stack-protector -femit-dwarf-unwind=always
+    # plain C functions that we import just as the phone does.
+    target_compile_options(${name}_objects PRIVATE ${options} -Os -fno-stack-protector
         -nostdinc++ -nostdlibinc
         "SHELL:-isystem ${CMAKE_SOURCE_DIR}/cmake/phone-libcxx"
         "SHELL:-isystem /usr/lib/llvm-19/include/c++/v1"
@@ -21,18 +20,20 @@ function(add_phone_library name sources options)
     target_link_libraries(${name}_objects PRIVATE warnings)
 
     set(library "${CMAKE_BINARY_DIR}/${name}.dylib")
-    set(linkScript "${CMAKE_SOURCE_DIR}/cmake/LinkPhoneLibrary.cmake")
     set(stubs ${phoneFrameworks} ${phoneWeakFrameworks})
     list(TRANSFORM stubs REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/package/stubs/\\1.tbd")
     set(stubArguments ${stubs})
     foreach(framework IN LISTS phoneWeakFrameworks)
         list(TRANSFORM stubArguments REPLACE "(.*/${framework}.tbd)" "-weak_library;\\1")
     endforeach()
+    # Nothing will ever be encrypted: without that possibility the load commands need no page of their own.
     add_custom_command(OUTPUT "${library}"
-        COMMAND "${CMAKE_COMMAND}" -D "OBJECTS=$<TARGET_OBJECTS:${name}_objects>" -D "LIBRARY=${library}"
-                -D "FOLDER=${CMAKE_BINARY_DIR}/objects-without-compact-unwind" -D "STUBS=${stubArguments}"
-                -D "INSTALL_NAME=/Library/MobileSubstrate/DynamicLibraries/${name}.dylib" -P "${linkScript}"
-        DEPENDS "$<TARGET_OBJECTS:${name}_objects>" ${stubs} "${linkScript}"
-        COMMENT "Linking ${name}.dylib for the phone" VERBATIM)
+        COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 -dylib -adhoc_codesign -dead_strip -x
+                -no_encryption -fatal_warnings -o "${library}"
+                -install_name /Library/MobileSubstrate/DynamicLibraries/${name}.dylib
+                "$<TARGET_OBJECTS:${name}_objects>" ${stubArguments}
+        COMMAND_EXPAND_LISTS VERBATIM
+        DEPENDS "$<TARGET_OBJECTS:${name}_objects>" ${stubs}
+        COMMENT "Linking ${name}.dylib for the phone")
     add_custom_target(${name} ALL DEPENDS "${library}")
 endfunction()

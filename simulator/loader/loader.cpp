@@ -24,20 +24,27 @@ constexpr bool processIsArm64 = false;
 
 constexpr char elfMagic[] = {0x7f, 'E', 'L', 'F'};
 
-// A list, because callers hold pointers to its elements.
+// Lists, because callers hold pointers to their elements.
 struct Registry {
     std::mutex mutex;
     std::list<LoadedLibrary> libraries;
+    std::list<macho::Image> images;
 };
 
 Registry& registry() {
-    static Registry instance;
+    // Never destroyed: hooks point into the images until the very end of the process.
+    static Registry& instance = *new Registry;
     return instance;
 }
 
 LoadedLibrary& remember(LoadedLibrary library) {
     const std::scoped_lock lock(registry().mutex);
     return registry().libraries.emplace_back(std::move(library));
+}
+
+const macho::Image& mapImage(std::span<const std::byte> bytes) {
+    const std::scoped_lock lock(registry().mutex);
+    return registry().images.emplace_back(bytes);
 }
 
 LoadResult loadElf(const std::string& path) {
@@ -51,7 +58,7 @@ LoadResult loadMachO(const std::string& path, std::span<const std::byte> bytes) 
             macho::parse(bytes);
             return LoadError{path + " is for arm64, this process is not"};
         }
-        macho::Image image(bytes);
+        const macho::Image& image = mapImage(bytes);
         LoadedLibrary& library = remember({path, LoadedLibrary::Format::machO, image.segments()});
         library.initialisersRun = image.runInitialisers();
         return library;

@@ -17,8 +17,7 @@ Bytes part(Bytes bytes, std::uint64_t offset, std::uint64_t size, const char* wh
     return bytes.subspan(offset, size);
 }
 
-template <class Structure>
-Structure read(Bytes bytes, std::uint64_t offset, const char* what) {
+template <class Structure> Structure read(Bytes bytes, std::uint64_t offset, const char* what) {
     Structure result;
     std::memcpy(&result, part(bytes, offset, sizeof result, what).data(), sizeof result);
     return result;

@@ -47,7 +47,7 @@ struct File {
     std::vector<Dependency> dependencies;
     FixupTables fixups;
     std::vector<Range> initialisers;
-    std::optional<Range> unwindFrames;
+    std::optional<Range> compactUnwind, unwindFrames;
 };
 
 bool isMachO(std::span<const std::byte> bytes);

@@ -1,6 +1,7 @@
 #include "loader/mach_o_image.h"
 
 #include "loader/fixups.h"
+#include "loader/unwind_frames.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -62,9 +63,11 @@ Image::~Image() {
 std::byte* Image::at(std::uint64_t address) const { return memory_ + (address - firstAddress_); }
 
 void Image::copySegments() {
-    for (const Segment& segment : file_.segments)
+    for (Segment& segment : file_.segments) {
         if (!segment.content.empty())
             std::memcpy(at(segment.address), segment.content.data(), segment.content.size());
+        segment.content = {}; // the caller's bytes go before the image does
+    }
 }
 
 void Image::applyFixups() {
@@ -80,6 +83,7 @@ void Image::applyFixups() {
     }
     for (const Bind& bind : fixups.binds)
         write(bind.address, addressOf(bind));
+    file_.fixups = {};
 }
 
 void Image::checkInitialisers() const {
@@ -103,17 +107,24 @@ void Image::protectSegments() {
 }
 
 // The host's exceptions pass through the library's functions, so the unwinder must know their frames. It
-// reads up to a zero length, which the format does not have: the linker puts the frames last in their
+// reads DWARF's up to a zero length, which the format does not have: the linker puts them last in their
 // segment, before padding.
 void Image::registerUnwindFrames() {
-    if (!file_.unwindFrames) return;
-    const std::uint64_t end = file_.unwindFrames->address + file_.unwindFrames->size;
-    std::uint32_t terminator = 0;
-    if (end - firstAddress_ > size_ - sizeof terminator)
-        throw FormatError("has unwind information without an end");
-    std::memcpy(&terminator, at(end), sizeof terminator);
-    if (terminator != 0) throw FormatError("has unwind information that is not followed by padding");
-    __register_frame(at(file_.unwindFrames->address));
+    if (file_.compactUnwind) {
+        const auto [address, size] = *file_.compactUnwind;
+        const auto image = reinterpret_cast<std::uintptr_t>(memory_);
+        translatedFrames_ = framesFromCompactUnwind({at(address), size}, image);
+    }
+    if (file_.unwindFrames) {
+        const std::uint64_t end = file_.unwindFrames->address + file_.unwindFrames->size;
+        std::uint32_t terminator = 0;
+        if (end - firstAddress_ > size_ - sizeof terminator)
+            throw FormatError("has unwind information without an end");
+        std::memcpy(&terminator, at(end), sizeof terminator);
+        if (terminator != 0) throw FormatError("has unwind information that is not followed by padding");
+        __register_frame(at(file_.unwindFrames->address));
+    }
+    if (!translatedFrames_.empty()) __register_frame(translatedFrames_.data());
 }
 
 std::vector<LoadedSegment> Image::segments() const {
@@ -124,15 +135,13 @@ std::vector<LoadedSegment> Image::segments() const {
     return result;
 }
 
-std::size_t Image::runInitialisers() {
+std::size_t Image::runInitialisers() const {
     using Initialiser = void (*)(int, const char**, const char**, const char**, const void*);
-    std::byte* memory = memory_;
-    memory_ = nullptr;
     std::size_t count = 0;
     for (const Range& list : file_.initialisers)
         for (std::uint64_t offset = 0; offset < list.size; offset += sizeof(Initialiser)) {
             Initialiser initialise = nullptr;
-            std::memcpy(&initialise, memory + (list.address + offset - firstAddress_), sizeof initialise);
+            std::memcpy(&initialise, at(list.address + offset), sizeof initialise);
             initialise(0, nullptr, nullptr, nullptr, nullptr);
             ++count;
         }

@@ -19,9 +19,9 @@ class Image {
 
     std::vector<LoadedSegment> segments() const;
 
-    /// Runs the initialisers in order and returns how many there were. From here on the image stays mapped
-    /// until the process ends, since anything may point into it.
-    std::size_t runInitialisers();
+    /// Runs the initialisers in order and returns how many there were. From here on the image must outlive
+    /// whatever they handed out pointers to.
+    std::size_t runInitialisers() const;
 
   private:
     std::byte* at(std::uint64_t address) const;
@@ -35,6 +35,7 @@ class Image {
     std::uint64_t firstAddress_ = 0;
     std::size_t size_ = 0;
     std::byte* memory_ = nullptr;
+    std::vector<std::byte> translatedFrames_;
 };
 
 } // namespace simulator::macho

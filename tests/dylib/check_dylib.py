@@ -33,6 +33,7 @@ FORBIDDEN_COMMANDS = {
     0x80000033: "an exports trie of its own",
     0x32: "a build version in place of a minimum iOS version",
     0x21: "encrypted content",
+    0x2C: "encrypted content",
     0x8000001C: "a search path for libraries",
 }
 FORBIDDEN_SECTIONS = {
@@ -41,6 +42,8 @@ FORBIDDEN_SECTIONS = {
     **{kind: "thread-local variables" for kind in range(0x11, 0x16)},
 }
 INITIALISER_POINTERS = 0x09
+# Without a frame, described by DWARF, with a frame.
+UNWIND_MODES = (2, 3, 4)
 
 
 def header_faults(library):
@@ -114,15 +117,15 @@ def section_faults(library):
             yield f"it has metadata of an Objective-C compiler ({section.name})"
     if initialisers != 2:
         yield f"it has {initialisers} initialisers instead of two"
-    if "__eh_frame" not in names:
-        yield "it has no DWARF unwind information"
+    if "__unwind_info" not in names:
+        yield "it has no unwind information"
 
 
 def unwind_faults(library):
-    # Mode 2 is a function that calls nobody, 3 says that DWARF describes it; everything else Linux cannot read.
-    for encoding in sorted(set(library.unwind_encodings())):
-        if encoding >> 24 & 0x0F not in (2, 3):
-            yield f"it has functions that only compact unwind information describes (encoding {encoding:#x})"
+    """Exceptions of the host pass through every function, so each must say how to leave it."""
+    for offset, encoding in library.unwind_entries():
+        if encoding >> 24 & 0x0F not in UNWIND_MODES:
+            yield f"the function at {offset:#x} cannot be unwound (encoding {encoding:#x})"
 
 
 def allowed_imports(path):

@@ -95,7 +95,12 @@ class DamagedCopies(unittest.TestCase):
         self.expect(with_bytes(section_flags(b"__mod_init_func") - 24, struct.pack("<Q", 8)), "1 initialisers")
 
     def test_missing_unwind_information_is_found(self):
-        self.expect(with_bytes(section_flags(b"__eh_frame") - 64, b"__xx"), "no DWARF unwind information")
+        self.expect(with_bytes(section_flags(b"__unwind_info") - 64, b"__xx"), "no unwind information")
+
+    def test_a_function_that_cannot_be_unwound_is_found(self):
+        info = section_content("__unwind_info")
+        common, count = struct.unpack_from("<II", SOUND, info + 4)
+        self.expect(with_bytes(info + common, bytes(4 * count)), "cannot be unwound")
 
     def test_a_large_file_is_found(self):
         self.expect(SOUND + bytes(128 * 1024), "more than")

@@ -127,10 +127,11 @@ class Library:
                 names |= set(names_of_binds(self.data[start : start + size]))
         return names
 
-    def unwind_encodings(self):
+    def unwind_entries(self):
+        """(offset of a function, its encoding) of all compact unwind information, without the entry that ends it."""
         for section in self.sections():
             if section.name == "__unwind_info":
-                yield from encodings_of(self.content(section))
+                yield from unwind_entries_of(self.content(section))
 
 
 def number(data, offset):
@@ -177,23 +178,23 @@ def names_of_binds(opcodes):
             _, offset = number(opcodes, offset)
 
 
-def encodings_of(info):
+def unwind_entries_of(info):
     _, common, common_count, _, _, index, index_count = unpack("<7I", info, 0)
     shared = unpack(f"<{common_count}I", info, common)
     for entry in range(index_count - 1):
-        _, page, _ = unpack("<3I", info, index + 12 * entry)
-        if page == 0:
-            continue
+        base, page, _ = unpack("<3I", info, index + 12 * entry)
         (kind,) = unpack("<I", info, page)
         if kind == 2:
             start, count = unpack("<HH", info, page + 4)
             for item in range(count):
-                yield unpack("<II", info, page + start + 8 * item)[1]
+                yield unpack("<II", info, page + start + 8 * item)
         elif kind == 3:
             start, count, own, _ = unpack("<4H", info, page + 4)
             for item in range(count):
-                which = unpack("<I", info, page + start + 4 * item)[0] >> 24
-                yield shared[which] if which < common_count else unpack("<I", info, page + own + 4 * (which - common_count))[0]
+                (packed,) = unpack("<I", info, page + start + 4 * item)
+                which = packed >> 24
+                local = page + own + 4 * (which - common_count)
+                yield base + (packed & 0xFFFFFF), shared[which] if which < common_count else unpack("<I", info, local)[0]
         else:
             raise Damaged(f"unknown page of unwind information {kind}")
 

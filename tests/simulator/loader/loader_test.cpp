@@ -104,33 +104,66 @@ TEST(Loader, names_a_missing_symbol_and_its_library) {
 TEST(Loader, runs_initialisers_in_order) {
     TestLibrary library;
     // The first stores 1 in the third word of the data segment, three small pages on; the second doubles it.
-    const std::uint32_t store[] = {
+    library.code = {
         0x52800020, // mov w0, #1
         0xf0000001, // adrp x1, 3 pages
         0xb9001020, // str w0, [x1, #16]
         0xd65f03c0, // ret
-    };
-    const std::uint32_t doubling[] = {
         0xf0000001, // adrp x1, 3 pages
         0xb9401020, // ldr w0, [x1, #16]
         0x531f7800, // lsl w0, w0, #1
         0xb9001020, // str w0, [x1, #16]
         0xd65f03c0, // ret
     };
-    constexpr std::uint64_t storeAt = 0x1000;
-    constexpr std::uint64_t doublingAt = 0x1100;
-    library.words[0] = storeAt;
-    library.words[1] = doublingAt;
+    library.words[0] = TestLibrary::codeOffset;
+    library.words[1] = TestLibrary::codeOffset + 16;
     library.initialisers.size = 16;
     library.rebases = {macho::rebase::setSegmentAndOffset | 1, 0, macho::rebase::doTimes | 2};
-    auto bytes = library.bytes();
-    std::memcpy(bytes.data() + storeAt, store, sizeof store);
-    std::memcpy(bytes.data() + doublingAt, doubling, sizeof doubling);
-    const LoadResult result = loadLibrary(TemporaryFile(bytes).path());
+    const LoadResult result = loadLibrary(TemporaryFile(library.bytes()).path());
     ASSERT_TRUE(std::holds_alternative<LoadedLibrary>(result)) << messageOf(result);
     const auto& loaded = std::get<LoadedLibrary>(result);
     EXPECT_EQ(loaded.initialisersRun, 2U);
     EXPECT_EQ(wordAt(loaded, 2), 2U) << "stored 1, then doubled";
+}
+
+struct Thrown {};
+
+[[noreturn]] void throwThrown() { throw Thrown{}; }
+
+// A function with a frame that changes a saved register, then calls the second word of the data segment.
+void giveThrowingInitialiser(TestLibrary& library) {
+    library.code = {
+        0xd10083ff, // sub sp, sp, #32
+        0xa9004ff4, // stp x20, x19, [sp]
+        0xa9017bfd, // stp x29, x30, [sp, #16]
+        0x910043fd, // add x29, sp, #16
+        0xd2800013, // mov x19, #0
+        0xd2800014, // mov x20, #0
+        0xf0000008, // adrp x8, 3 pages
+        0xf9400508, // ldr x8, [x8, #8]
+        0xd63f0100, // blr x8
+        0xd4200000, // brk #0
+    };
+    library.words[0] = TestLibrary::codeOffset;
+    library.words[1] = reinterpret_cast<std::uintptr_t>(&throwThrown);
+    library.initialisers.size = 8;
+    library.rebases = {macho::rebase::setSegmentAndOffset | 1, 0, macho::rebase::doTimes | 1};
+    library.unwindInfo =
+        TestLibrary::unwindInfoOf(TestLibrary::codeOffset, 40, 0x04000001); // a frame; x19 and x20 are saved
+}
+
+// An exception that finds no frame ends the process, and so does one that loses the registers saved in it.
+TEST(Loader, lets_exceptions_pass_through_the_library) {
+    TestLibrary library;
+    giveThrowingInitialiser(library);
+    const TemporaryFile file(library.bytes());
+    bool caught = false;
+    try {
+        loadLibrary(file.path());
+    } catch (const Thrown&) {
+        caught = true;
+    }
+    EXPECT_TRUE(caught);
 }
 
 TEST(Loader, refuses_an_initialiser_outside_the_library) {

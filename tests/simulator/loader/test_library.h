@@ -16,20 +16,31 @@ class TestLibrary {
   public:
     static constexpr std::uint64_t dataAddress = macho::pageSize;
     static constexpr std::uint32_t dataOffset = macho::pageSize;
+    static constexpr std::uint32_t codeOffset = 0x1000;
+    static constexpr std::uint32_t unwindOffset = 0x2000;
 
     macho::Header header{
         macho::magic64, macho::cpuTypeArm64, macho::cpuSubtypeArm64All, macho::fileTypeDylib, 0, 0, 0x85, 0};
     macho::SegmentCommand text = segment("__TEXT", 0, 0, 5);
     macho::SegmentCommand data = segment("__DATA", dataAddress, dataOffset, 3);
-    macho::Section initialisers = section("__mod_init_func", macho::section::initialiserPointers, 0);
+    macho::Section initialisers =
+        section("__mod_init_func", macho::section::initialiserPointers, dataAddress, 0);
     std::uint32_t fixupCommand = macho::command::dyldInfoOnly;
     std::vector<std::uint8_t> rebases, binds, lazyBinds;
+    std::vector<std::uint32_t> code;
+    /// The content of __unwind_info, in numbers.
+    std::vector<std::uint32_t> unwindInfo;
     /// What the data segment holds, eight bytes each.
     std::vector<std::uint64_t> words = std::vector<std::uint64_t>(8);
 
     std::vector<std::byte> bytes() const {
         std::vector<std::byte> commands;
-        append(commands, text);
+        macho::SegmentCommand textWithSection = text;
+        textWithSection.header.size += sizeof(macho::Section);
+        textWithSection.sectionCount = 1;
+        append(commands, textWithSection);
+        append(commands,
+               section("__unwind_info", 0, unwindOffset, unwindInfo.size() * sizeof(std::uint32_t)));
         macho::SegmentCommand dataWithSection = data;
         dataWithSection.header.size += sizeof initialisers;
         dataWithSection.sectionCount = 1;
@@ -43,14 +54,14 @@ class TestLibrary {
         macho::DyldInfoCommand info{};
         info.header = {fixupCommand, sizeof info};
         std::uint32_t next = tables;
-        const auto place = [&next](std::uint32_t& offset, std::uint32_t& size, std::size_t wanted) {
+        const auto reserve = [&next](std::uint32_t& offset, std::uint32_t& size, std::size_t wanted) {
             offset = next;
             size = static_cast<std::uint32_t>(wanted);
             next += size;
         };
-        place(info.rebaseOffset, info.rebaseSize, rebases.size());
-        place(info.bindOffset, info.bindSize, binds.size());
-        place(info.lazyBindOffset, info.lazyBindSize, lazyBinds.size());
+        reserve(info.rebaseOffset, info.rebaseSize, rebases.size());
+        reserve(info.bindOffset, info.bindSize, binds.size());
+        reserve(info.lazyBindOffset, info.lazyBindSize, lazyBinds.size());
         append(commands, info);
 
         macho::Header finished = header;
@@ -60,7 +71,9 @@ class TestLibrary {
         append(result, finished);
         result.insert(result.end(), commands.begin(), commands.end());
         result.resize(tables);
-        std::memcpy(result.data() + dataOffset, words.data(), words.size() * sizeof words[0]);
+        place(result, codeOffset, code);
+        place(result, unwindOffset, unwindInfo);
+        place(result, dataOffset, words);
         for (const auto* table : {&rebases, &binds, &lazyBinds})
             for (const std::uint8_t byte : *table)
                 result.push_back(std::byte{byte});
@@ -79,6 +92,23 @@ class TestLibrary {
         return result;
     }
 
+    /// Unwind information of one function.
+    static std::vector<std::uint32_t> unwindInfoOf(std::uint32_t offset, std::uint32_t size,
+                                                   std::uint32_t encoding) {
+        constexpr std::uint32_t index = 28;
+        constexpr std::uint32_t page = 52;
+        constexpr std::uint32_t oneEntryAfterHeader = 1U << 16 | 8;
+        return {1,      index,
+                0,      index,
+                0,      index,
+                2, // header
+                offset, page,
+                0,      offset + size,
+                0,      0, // index: the page and its end
+                2,      oneEntryAfterHeader,
+                offset, encoding};
+    }
+
   private:
     static macho::SegmentCommand segment(const char* name, std::uint64_t address, std::uint64_t offset,
                                          std::uint32_t protection) {
@@ -92,10 +122,11 @@ class TestLibrary {
         return result;
     }
 
-    static macho::Section section(const char* name, std::uint32_t type, std::uint64_t size) {
+    static macho::Section section(const char* name, std::uint32_t type, std::uint64_t address,
+                                  std::uint64_t size) {
         macho::Section result{};
         std::strncpy(result.name, name, sizeof result.name);
-        result.address = dataAddress;
+        result.address = address;
         result.size = size;
         result.flags = type;
         return result;
@@ -110,7 +141,11 @@ class TestLibrary {
     }
 
     template <class Value>
-    static void append(std::vector<std::byte>& bytes, const Value& value) {
+    static void place(std::vector<std::byte>& bytes, std::size_t offset, const std::vector<Value>& values) {
+        if (!values.empty()) std::memcpy(bytes.data() + offset, values.data(), values.size() * sizeof(Value));
+    }
+
+    template <class Value> static void append(std::vector<std::byte>& bytes, const Value& value) {
         const auto* start = reinterpret_cast<const std::byte*>(&value);
         bytes.insert(bytes.end(), start, start + sizeof value);
     }
