@@ -16,6 +16,8 @@ struct TabState;
 
 @property (nonatomic, copy) NSArray* items;
 @property (nonatomic, assign) UITabBarItem* selectedItem;
+// Exists on a device with every name only: on real ones the getter of `hidden` is isHidden.
+- (BOOL)hidden;
 
 @end
 

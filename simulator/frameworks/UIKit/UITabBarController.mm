@@ -52,13 +52,12 @@ struct TabState {
     _selectedItem = item;
 }
 
-- (void)layoutSubviews {
-    [super layoutSubviews];
-}
-
-// No release has this name; the complete device does.
 - (BOOL)hidden {
     return [self isHidden];
+}
+
+- (void)layoutSubviews {
+    [super layoutSubviews];
 }
 
 @end
