@@ -1,0 +1,87 @@
+#include "tour/stage.h"
+
+#include "photolibrary/samples.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <thread>
+
+namespace simulator::tour {
+
+namespace {
+
+constexpr const char* preferencesFile = "/var/mobile/Library/Preferences/com.nrv.rollkeeperprefs.plist";
+constexpr auto patience = std::chrono::seconds(20);
+
+} // namespace
+
+Stage::Stage(const Programs& programs, const std::filesystem::path& folder)
+    : m_programs(programs), m_libraryFile(programs.library.string()), m_device(Device::create(folder)),
+      m_photos(PhotoLibrary::open(m_device)) {
+    addSmallSample(*m_photos);
+}
+
+HostProcess& Stage::application(const std::string& bundleIdentifier) {
+    if (const auto running = m_running.find(bundleIdentifier); running != m_running.end())
+        return running->second;
+    HostProcessOptions options;
+    options.program = m_programs.host;
+    options.bundleIdentifier = bundleIdentifier;
+    options.device = m_device.folder();
+    options.library = m_programs.library;
+    options.emulator = m_programs.emulator;
+    options.timeout = 60;
+    return m_running.emplace(bundleIdentifier, HostProcess(std::move(options))).first->second;
+}
+
+void Stage::stop(const std::string& bundleIdentifier) {
+    const auto running = m_running.find(bundleIdentifier);
+    if (running == m_running.end()) return;
+    running->second.stop();
+    m_running.erase(running);
+}
+
+HostProcess& Stage::restart(const std::string& bundleIdentifier) {
+    stop(bundleIdentifier);
+    return application(bundleIdentifier);
+}
+
+void Stage::writePreferences(const nlohmann::json& preferences) {
+    m_device.writePropertyList(preferencesFile, preferences);
+}
+
+void Stage::tell(const std::string& text) {
+    std::printf("    %s\n", text.c_str());
+    std::fflush(stdout);
+}
+
+void Stage::check(const std::string& text, const std::function<bool()>& condition) {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end) throw TourFailure("this did not happen: " + text);
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    std::printf("  + %s\n", text.c_str());
+    std::fflush(stdout);
+}
+
+std::string Stage::numbersOf(const Assets& assets) {
+    const Assets all = m_photos->assets({.includeHidden = true});
+    std::string numbers;
+    for (const Asset& asset : assets) {
+        const auto place = std::ranges::find(all, asset.identifier, &Asset::identifier);
+        if (!numbers.empty()) numbers += ' ';
+        numbers += std::to_string(place - all.begin() + 1);
+    }
+    return numbers.empty() ? "nothing" : numbers;
+}
+
+std::string Stage::cameraRoll() { return numbersOf(m_photos->visibleAssets()); }
+
+std::string Stage::album(const std::string& title) {
+    const auto found = m_photos->albumTitled(title);
+    return found ? numbersOf(m_photos->assetsIn(*found, {.includeHidden = true})) : "no such album";
+}
+
+} // namespace simulator::tour

@@ -1,0 +1,72 @@
+// What a road of the tour plays on: a fresh device, its photo library, its running applications, and a voice
+// that tells what happens and checks that it did.
+#pragma once
+
+#include "device/device.h"
+#include "hosts/client.h"
+#include "photolibrary/library.h"
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace simulator::tour {
+
+// Something did not happen as it should.
+struct TourFailure : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+struct Programs {
+    std::filesystem::path host;
+    std::filesystem::path library;
+    std::vector<std::string> emulator;
+};
+
+class Stage {
+  public:
+    // A new device in `folder` with the small sample library. Everything on it ends with the stage.
+    Stage(const Programs& programs, const std::filesystem::path& folder);
+
+    const Device& device() const { return m_device; }
+    PhotoLibrary& photos() { return *m_photos; }
+    const std::string& libraryFile() const { return m_libraryFile; }
+
+    // Starts the application, or gives the one that runs; `restart` ends it first.
+    HostProcess& application(const std::string& bundleIdentifier);
+    HostProcess& restart(const std::string& bundleIdentifier);
+    void stop(const std::string& bundleIdentifier);
+
+    void writePreferences(const nlohmann::json& preferences);
+
+    // "  text": what a person does or sees.
+    void tell(const std::string& text);
+    // Tells the text when the condition holds, at once or within a few seconds; throws TourFailure otherwise.
+    void check(const std::string& text, const std::function<bool()>& condition);
+
+    // Titles of the photos that the Camera Roll shows, as numbers in the sample, oldest first; photos taken
+    // since then continue the count.
+    std::string cameraRoll();
+    std::string album(const std::string& title);
+
+  private:
+    std::string numbersOf(const Assets& assets);
+
+    Programs m_programs;
+    std::string m_libraryFile;
+    Device m_device;
+    std::unique_ptr<PhotoLibrary> m_photos;
+    std::map<std::string, HostProcess> m_running;
+};
+
+// A part of the tour, on a device of its own.
+struct Road {
+    const char* title;
+    void (*walk)(Stage& stage);
+};
+
+} // namespace simulator::tour
