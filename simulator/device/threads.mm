@@ -42,6 +42,8 @@ void runAsEvent(const std::function<void()>& work) {
 void performOnThread(NSThread* thread, std::function<void()> work) {
     registerThread();
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    // A thread without a run loop would do its own work at once instead of later: this makes the run loop.
+    [NSRunLoop currentRunLoop];
     SimulatorWork* carried = [[[SimulatorWork alloc] initWithWork:std::move(work)] autorelease];
     [carried performSelector:@selector(run)
                     onThread:thread
