@@ -139,6 +139,7 @@ TEST_F(ImageTest, CancelledRequestDoesNotAnswer) {
     };
     const PHImageRequestID first = request();
     EXPECT_NE(request(), first);
+    EXPECT_EQ(calls, 0);
     [manager cancelImageRequest:first];
     EXPECT_TRUE(runMainLoopUntil(^{
         return calls > 0;

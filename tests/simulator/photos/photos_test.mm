@@ -27,7 +27,6 @@ PhotosTest::PhotosTest()
 }
 
 PhotosTest::~PhotosTest() {
-    mountDevice({});
     [m_pool drain];
     std::filesystem::remove_all(m_folder);
 }
