@@ -8,6 +8,7 @@
 #include "hosts/applications/photos/photos_app.h"
 #include "hosts/applications/pickers.h"
 #include "hosts/applications/plain/plain_app.h"
+#include "hosts/applications/settings/settings_app.h"
 
 #include <objc/runtime.h>
 
@@ -57,9 +58,15 @@ const struct {
     {"CustomDraw", {"CustomDrawButton"}},
     {"MobileSlideShow", {"PLPhotosApplication", "PhotosApplication"}},
     {"SpringBoard", {"FBSystemApp", "SpringBoard"}},
-    {"Preferences", {"PSRootController"}},
+    {"Preferences",
+     {"PSBundleController", "PSControlTableCell", "PSDetailController", "PSEditableListController",
+      "PSEditableTableCell", "PSListController", "PSListItemsController", "PSRootController",
+      "PSSegmentTableCell", "PSSliderTableCell", "PSSpecifier", "PSSpinnerTableCell",
+      "PSSubtitleSwitchTableCell", "PSSwitchTableCell", "PSTableCell", "PSTextViewTableCell",
+      "PSValueControl", "PSViewController"}},
     {"PreferencesApp",
-     {"PSUIPrefsRootController", "PreferencesAppController", "WallpaperAlbumPickerViewController"}},
+     {"PLCustomListController", "PSUIPrefsListController", "PSUIPrefsRootController",
+      "PreferencesAppController", "WallpaperAlbumPickerViewController"}},
     {"Messenger",
      {"MNMontageAlbumCell", "MNMontageAlbumListViewController", "MNPhotosAlbumDataSource",
       "MessengerApplication"}},

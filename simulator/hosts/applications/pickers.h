@@ -13,13 +13,3 @@ nlohmann::json list();
 void addVerbs();
 
 } // namespace simulator::pickers
-
-namespace simulator::settings {
-
-/// Opens the list of albums for a new wallpaper and lists it.
-nlohmann::json listWallpapers();
-
-/// {"do": "listPicker"}.
-void addVerbs();
-
-} // namespace simulator::settings

@@ -1,7 +1,5 @@
 #include "hosts/applications/pickers.h"
 
-#import "hosts/applications/settings/PreferencesAppController.h"
-
 #include "hosts/applications/common/screen.h"
 #include "hosts/host.h"
 
@@ -18,15 +16,6 @@ nlohmann::json pickers::list() {
 
 void pickers::addVerbs() {
     registerVerb("listPicker", [](const nlohmann::json&) { return list(); });
-}
-
-nlohmann::json settings::listWallpapers() {
-    auto application = static_cast<PreferencesAppController*>([UIApplication sharedApplication]);
-    return describePicker([application openWallpaperPicker]);
-}
-
-void settings::addVerbs() {
-    registerVerb("listPicker", [](const nlohmann::json&) { return listWallpapers(); });
 }
 
 } // namespace simulator

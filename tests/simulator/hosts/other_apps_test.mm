@@ -6,6 +6,7 @@
 #include "hosts/applications/messenger/messenger_app.h"
 #include "hosts/applications/pickers.h"
 #include "hosts/applications/plain/plain_app.h"
+#include "hosts/applications/settings/settings_app.h"
 #include "simulator/hosts/hosts_test.h"
 
 #include <gmock/gmock.h>

@@ -7,6 +7,12 @@
 @interface WallpaperAlbumPickerViewController : AlbumPickerViewController
 @end
 
+/// The list of Settings: the system's own rows, then those of installed tools.
+@interface PSUIPrefsListController : PSListController
+/// Opens the list of albums for a new wallpaper.
+- (WallpaperAlbumPickerViewController*)openWallpaperPicker;
+@end
+
 /// The navigation of Settings.
 @interface PSUIPrefsRootController : PSRootController
 @end
@@ -14,9 +20,9 @@
 /// The application object of Settings.
 @interface PreferencesAppController : UIApplication {
     PSUIPrefsRootController* _controller;
+    PSUIPrefsListController* _list;
     UIWindow* _window;
 }
 - (id)rootController;
-/// Opens the list of albums for a new wallpaper.
-- (WallpaperAlbumPickerViewController*)openWallpaperPicker;
+- (PSUIPrefsListController*)rootListController;
 @end

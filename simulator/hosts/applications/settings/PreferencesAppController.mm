@@ -1,5 +1,7 @@
 #import "hosts/applications/settings/PreferencesAppController.h"
 
+#import "hosts/applications/settings/PreferenceLoader.h"
+
 #include "hosts/applications/common/launch.h"
 
 @implementation WallpaperAlbumPickerViewController
@@ -8,18 +10,52 @@
 @implementation PSUIPrefsRootController
 @end
 
+@implementation PSUIPrefsListController
+
+- (NSArray*)specifiers {
+    if (_specifiers == nil) {
+        PSSpecifier* wallpaper = [PSSpecifier preferenceSpecifierNamed:@"Wallpaper"
+                                                                target:self
+                                                                   set:nullptr
+                                                                   get:nullptr
+                                                                detail:Nil
+                                                                  cell:PSButtonCell
+                                                                  edit:Nil];
+        [wallpaper setButtonAction:@selector(openWallpaperPicker)];
+        NSArray* own = @[ [PSSpecifier emptyGroupSpecifier], wallpaper, [PSSpecifier emptyGroupSpecifier] ];
+        _specifiers = [[own arrayByAddingObjectsFromArray:PLLoadEntries(self)] retain];
+    }
+    return _specifiers;
+}
+
+- (WallpaperAlbumPickerViewController*)openWallpaperPicker {
+    [[self navigationController] popToRootViewControllerAnimated:NO];
+    UIViewController* wallpaper = [[[UIViewController alloc] init] autorelease];
+    [wallpaper setTitle:@"Wallpaper"];
+    [[self navigationController] pushViewController:wallpaper animated:NO];
+    WallpaperAlbumPickerViewController* picker =
+        [[[WallpaperAlbumPickerViewController alloc] init] autorelease];
+    [picker setTitle:@"Choose"];
+    [[self navigationController] pushViewController:picker animated:YES];
+    return picker;
+}
+
+@end
+
 @implementation PreferencesAppController
 
 - (void)dealloc {
     [_controller release];
+    [_list release];
     [_window release];
     [super dealloc];
 }
 
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
-    UIViewController* list = [[[UIViewController alloc] init] autorelease];
-    [list setTitle:@"Settings"];
-    _controller = [[PSUIPrefsRootController alloc] initWithRootViewController:list];
+    _list = [[PSUIPrefsListController alloc] init];
+    [_list setTitle:@"Settings"];
+    _controller = [[PSUIPrefsRootController alloc] initWithRootViewController:_list];
+    [_list setRootController:_controller];
     _window = simulator::showRootViewController(_controller);
 }
 
@@ -27,16 +63,8 @@
     return _controller;
 }
 
-- (WallpaperAlbumPickerViewController*)openWallpaperPicker {
-    [_controller popToRootViewControllerAnimated:NO];
-    UIViewController* wallpaper = [[[UIViewController alloc] init] autorelease];
-    [wallpaper setTitle:@"Wallpaper"];
-    [_controller pushViewController:wallpaper animated:NO];
-    WallpaperAlbumPickerViewController* picker =
-        [[[WallpaperAlbumPickerViewController alloc] init] autorelease];
-    [picker setTitle:@"Choose"];
-    [_controller pushViewController:picker animated:YES];
-    return picker;
+- (PSUIPrefsListController*)rootListController {
+    return _list;
 }
 
 @end

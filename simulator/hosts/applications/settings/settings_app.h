@@ -1,0 +1,36 @@
+/// What a user does in Settings. Main thread; the running application must be it. What is not on the screen
+/// as an action needs it throws std::runtime_error.
+#pragma once
+
+#import "hosts/applications/settings/PreferencesAppController.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace simulator::settings {
+
+/// Opens the list of albums for a new wallpaper and lists it, see describePicker().
+nlohmann::json listWallpapers();
+
+/// The pane on the screen.
+PSListController* pane();
+
+/// Goes back to the list of Settings and taps the row of an installed tool.
+PSListController* openEntry(const std::string& label);
+
+/// The rows of a pane: [{"group": title or null}, {"label": "Enabled", "cell": "PSSwitchCell", "key": ...,
+/// "value": ...}].
+nlohmann::json describePane(PSListController* pane);
+
+/// Changes the control of a row as a user does: true or false for a switch, else a number, text or segment's
+/// value.
+void setControl(const std::string& label, const nlohmann::json& value);
+
+/// Taps a row: opens its pane, chooses a value in a list of values, or presses a button.
+void tapRow(const std::string& label);
+
+/// {"do": "listPicker"}, "openEntry" {"label"}, "pane", "setControl" {"label", "value"}, "tapRow" {"label"}.
+void addVerbs();
+
+} // namespace simulator::settings
