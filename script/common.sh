@@ -6,6 +6,7 @@ sysroot=build/sysroot-arm64
 presets=(sanitize release tsan arm64 ios)
 
 if command -v ccache >/dev/null; then
+    export CCACHE_SLOPPINESS=pch_defines,time_macros # it asks for this where headers are precompiled
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache CMAKE_OBJCXX_COMPILER_LAUNCHER=ccache
 fi
 

@@ -56,7 +56,8 @@ class DamagedCopies(unittest.TestCase):
         self.expect(with_bytes(offset, bytes([SOUND[offset] ^ 1])), "is not what was signed")
 
     def test_a_truncated_file_is_found(self):
-        self.expect(SOUND[: len(SOUND) // 2], "the file ends")
+        self.expect(SOUND[:256], "the file ends")
+        self.expect(SOUND[: len(SOUND) // 2], "past the end of the file")
 
     def test_an_empty_file_is_found(self):
         self.expect(b"", "the file ends")
