@@ -18,6 +18,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <deque>
 
 namespace simulator {
 namespace {
@@ -26,7 +27,7 @@ namespace {
 constexpr std::string_view devicePrefixes[] = {"/var",    "/private/var",  "/Library",
                                                "/System", "/Applications", "/usr/lib/librocketbootstrap"};
 
-// Replaced as a whole, never changed: other threads may be reading it.
+// Replaced as a whole, never changed or freed: other threads may be reading it.
 std::atomic<const std::string*> mounted = nullptr;
 
 bool isBelow(std::string_view path, std::string_view folder) {
@@ -140,8 +141,11 @@ template <FunctionName name> int makeTemporaryNext(char* givenTemplate) {
 } // namespace
 
 void mountDevice(const std::filesystem::path& folder) {
-    mounted = folder.empty() ? nullptr
-                             : new std::string(std::filesystem::absolute(folder).lexically_normal().string());
+    static auto* everMounted = new std::deque<std::string>;
+    if (folder.empty())
+        mounted = nullptr;
+    else
+        mounted = &everMounted->emplace_back(std::filesystem::absolute(folder).lexically_normal().string());
 }
 
 std::filesystem::path mountedDevice() {

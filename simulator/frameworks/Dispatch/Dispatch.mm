@@ -96,7 +96,10 @@ __attribute__((constructor)) void checkThatBlocksAreReallyCopied() {
 } // namespace
 
 dispatch_queue_t dispatch_queue_create(const char*, dispatch_queue_attr_t) {
-    return new dispatch_queue_s{new SerialThread};
+    static auto& lock = *new std::mutex;
+    static auto& queues = *new std::deque<dispatch_queue_s>;
+    const std::lock_guard guard(lock);
+    return &queues.emplace_back(new SerialThread);
 }
 
 dispatch_queue_t dispatch_get_global_queue(long, unsigned long) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
+#include <map>
 #include <mutex>
 #include <set>
 #include <utility>
@@ -73,10 +74,13 @@ std::atomic<const AbsenceTable*> table = nullptr;
 const AbsenceTable& absenceTable() {
     const AbsenceTable* current = table.load(std::memory_order_acquire);
     if (current != nullptr) return *current;
-    // Replaced tables are kept, as another thread may be reading one.
-    const auto* made = new AbsenceTable;
-    table.store(made, std::memory_order_release);
-    return *made;
+    // One for each release that was asked about; kept, as another thread may be reading it.
+    static std::mutex& lock = *new std::mutex;
+    static auto& tables = *new std::map<Release, AbsenceTable>;
+    const std::lock_guard guard(lock);
+    const AbsenceTable& made = tables.try_emplace(currentRelease()).first->second;
+    table.store(&made, std::memory_order_release);
+    return made;
 }
 
 struct AddedMethods {

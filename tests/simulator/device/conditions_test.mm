@@ -53,6 +53,7 @@ TEST_F(ConditionsOfDevice, only_a_device_can_be_opened) {
 }
 
 struct Authentication {
+    const char* name;
     BiometricOutcome outcome;
     bool available;
     bool success;
@@ -90,14 +91,16 @@ TEST_P(AuthenticationOutcome, comes_back_on_a_queue_of_its_own) {
     EXPECT_EQ(authenticationReasons(), std::vector<std::string>{"The reason"});
 }
 
-INSTANTIATE_TEST_SUITE_P(Conditions, AuthenticationOutcome,
-                         testing::Values(Authentication{BiometricOutcome::success, true, true, {}},
-                                         Authentication{BiometricOutcome::failed, true, false, -1},
-                                         Authentication{BiometricOutcome::userCancel, true, false, -2},
-                                         Authentication{BiometricOutcome::userFallback, true, false, -3},
-                                         Authentication{BiometricOutcome::notAvailable, false, false, -6},
-                                         Authentication{
-                                             BiometricOutcome::refusedWithoutError, true, false, {}}));
+INSTANTIATE_TEST_SUITE_P(
+    Conditions, AuthenticationOutcome,
+    testing::Values(Authentication{"success", BiometricOutcome::success, true, true, {}},
+                    Authentication{"failed", BiometricOutcome::failed, true, false, -1},
+                    Authentication{"userCancel", BiometricOutcome::userCancel, true, false, -2},
+                    Authentication{"userFallback", BiometricOutcome::userFallback, true, false, -3},
+                    Authentication{"notAvailable", BiometricOutcome::notAvailable, false, false, -6},
+                    Authentication{
+                        "refusedWithoutError", BiometricOutcome::refusedWithoutError, true, false, {}}),
+    [](const auto& info) { return info.param.name; });
 
 TEST_F(ConditionsOfDevice, an_empty_reason_raises) {
     LAContext* context = [[[LAContext alloc] init] autorelease];

@@ -23,8 +23,8 @@ class DeviceTest : public testing::Test {
     // Options for a host process of this build on this device, without a library.
     HostProcessOptions hostProcess(const std::string& bundleIdentifier) const;
 
-    // Runs the main run loop until the condition holds; false after five seconds.
-    static bool runUntil(const std::function<bool()>& condition);
+    // Runs the main run loop until the condition holds; false after `timeout` seconds.
+    static bool runUntil(const std::function<bool()>& condition, double timeout = 5);
 
   private:
     NSAutoreleasePool* m_pool;

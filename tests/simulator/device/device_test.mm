@@ -40,8 +40,8 @@ HostProcessOptions DeviceTest::hostProcess(const std::string& bundleIdentifier) 
     return options;
 }
 
-bool DeviceTest::runUntil(const std::function<bool()>& condition) {
-    NSDate* end = [NSDate dateWithTimeIntervalSinceNow:5];
+bool DeviceTest::runUntil(const std::function<bool()>& condition, double timeout) {
+    NSDate* end = [NSDate dateWithTimeIntervalSinceNow:timeout];
     while (!condition() && [end timeIntervalSinceNow] > 0) {
         @autoreleasepool {
             [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode

@@ -3,6 +3,10 @@
 #include "frameworks/Hooking/InstallationLog.h"
 #include "simulator/device/device_test.h"
 
+#include <sys/mman.h>
+
+#include <csignal>
+
 // Classes to be hooked: a method of their own, one inherited, a class method, and arguments of every kind of
 // register.
 @interface HookedBase : NSObject
@@ -96,6 +100,45 @@ TEST_P(Hooking, replaces_class_methods_on_the_metaclass) {
     EXPECT_EQ([HookedClass shared], 101);
 }
 
+// A slot that nobody may touch: the write to it faults, and the handler sees whether the replacement is in
+// place yet.
+class GuardedSlot {
+  public:
+    GuardedSlot() {
+        s_page = mmap(nullptr, pageSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        struct sigaction action{};
+        action.sa_handler = written;
+        sigaction(SIGSEGV, &action, &m_previous);
+    }
+    ~GuardedSlot() {
+        sigaction(SIGSEGV, &m_previous, nullptr);
+        munmap(s_page, pageSize);
+    }
+
+    IMP* get() { return static_cast<IMP*>(s_page); }
+    static bool wasInstalledWhenWritten() { return s_installed; }
+
+  private:
+    static constexpr std::size_t pageSize = 65536;
+
+    static void written(int) {
+        s_installed = class_getMethodImplementation([HookedClass class], @selector(own)) ==
+                      reinterpret_cast<IMP>(hookedOwn);
+        mprotect(s_page, pageSize, PROT_READ | PROT_WRITE);
+    }
+
+    static inline void* s_page;
+    static inline bool s_installed;
+    struct sigaction m_previous{};
+};
+
+TEST_P(Hooking, writes_the_slot_before_or_after_as_the_style_says) {
+    GuardedSlot slot;
+    hook([HookedClass class], @selector(own), hookedOwn, slot.get());
+    ASSERT_NE(*slot.get(), nullptr);
+    EXPECT_NE(slot.wasInstalledWhenWritten(), GetParam().slotWrittenFirst);
+}
+
 TEST_P(Hooking, chains_a_second_replacement) {
     hook([HookedClass class], @selector(inherited), hookedInherited, &inheritedOriginal);
     hook([HookedClass class], @selector(inherited), hookedTwice, &secondOriginal);
@@ -113,7 +156,11 @@ TEST_P(Hooking, installs_nothing_for_a_nil_class_or_an_unknown_method) {
 
 INSTANTIATE_TEST_SUITE_P(BothFrameworks, Hooking,
                          testing::Values(HookingStyle{true, false}, HookingStyle{false, false},
-                                         HookingStyle{true, true}, HookingStyle{false, true}));
+                                         HookingStyle{true, true}, HookingStyle{false, true}),
+                         [](const auto& info) {
+                             return std::string(info.param.slotWrittenFirst ? "slot_first" : "slot_last") +
+                                    (info.param.inheritedResolvedLate ? "_late" : "_early");
+                         });
 
 TEST_F(DeviceTest, installations_are_logged_in_order) {
     clearInstallationLog();

@@ -45,6 +45,12 @@ TEST(Releases, names_and_versions_agree_with_the_device) {
     EXPECT_DOUBLE_EQ(coreFoundationVersion(Release::complete), coreFoundationVersion(Release::ios10_3));
 }
 
+std::string plainName(Release release) {
+    std::string name(releaseName(release));
+    std::ranges::replace(name, '.', '_');
+    return name;
+}
+
 struct ClassCase {
     const char* name;
     Release release;
@@ -63,7 +69,10 @@ INSTANTIATE_TEST_SUITE_P(Releases, ClassPresence,
                                          ClassCase{"LAContext", Release::ios8_4, true},
                                          ClassCase{"LAContext", Release::complete, true},
                                          ClassCase{"NSString", Release::ios7_1, true},
-                                         ClassCase{"NoSuchClass", Release::complete, false}));
+                                         ClassCase{"NoSuchClass", Release::complete, false}),
+                         [](const auto& info) {
+                             return std::string(info.param.name) + "_" + plainName(info.param.release);
+                         });
 
 TEST(Releases, class_of_a_framework_is_there_once_the_framework_is_loaded) {
     registerFramework("Authentication", {"LAContext"});
@@ -105,7 +114,8 @@ INSTANTIATE_TEST_SUITE_P(Releases, MethodPresence,
                          testing::Values(MethodCase{Release::ios7_1, false},
                                          MethodCase{Release::ios8_4, true},
                                          MethodCase{Release::ios12_4, true},
-                                         MethodCase{Release::complete, true}));
+                                         MethodCase{Release::complete, true}),
+                         [](const auto& info) { return plainName(info.param.release); });
 
 TEST(Releases, a_name_of_no_release_exists_in_the_complete_one) {
     @autoreleasepool {
