@@ -30,7 +30,8 @@ UITextField Alert::addTextField(NSString placeholder, bool secure) {
             if (hides) field.setSecureTextEntry(true);
         },
         share(placeholder), secure));
-    return cast<UITextField>(controller_.textFields().firstObject());
+    const NSArray fields = controller_.textFields();
+    return fields ? cast<UITextField>(fields.objectAtIndex(fields.count() - 1)) : UITextField();
 }
 
 // A sheet without an anchor raises on a pad.

@@ -22,10 +22,12 @@ inline constexpr bool isVariadic =
     name == FixedString("predicateWithFormat:") || name == FixedString("arrayWithObjects:") ||
     name == FixedString("dictionaryWithObjectsAndKeys:") || name == FixedString("setWithObjects:");
 
-// Beyond these the phone packs arguments on the stack and the desk pads them.
-template <typename... Arguments> constexpr bool travelsInRegisters() {
+// Beyond the registers the phone packs arguments on the stack and the desk pads them to eight bytes: there
+// only what has eight bytes lies alike.
+template <typename... Arguments> constexpr bool travelsAlike() {
     std::size_t integers = 2;
     std::size_t floats = 0;
+    bool alike = true;
     const auto count = [&]<typename T>() {
         if constexpr (std::is_same_v<T, CGRect>) {
             floats += 4;
@@ -35,10 +37,11 @@ template <typename... Arguments> constexpr bool travelsInRegisters() {
             ++floats;
         } else {
             ++integers;
+            alike = alike && (integers <= 8 || sizeof(T) == 8);
         }
     };
     (count.template operator()<Arguments>(), ...);
-    return integers <= 8 && floats <= 8;
+    return alike && floats <= 8;
 }
 
 template <FixedString name, typename Result, typename... Arguments>
@@ -46,7 +49,7 @@ Result sendMessage(id receiver, Arguments... arguments) {
     static_assert(!isVariadic<name>,
                   "no message is variadic: use the form that takes an array or no arguments");
     static_assert(name.count(':') == sizeof...(Arguments), "a selector has one colon for each argument");
-    static_assert(travelsInRegisters<Arguments...>(), "stack arguments differ between phone and desk");
+    static_assert(travelsAlike<Arguments...>(), "stack arguments differ between phone and desk");
     using Function = Result (*)(id, SEL, Arguments...);
 #ifdef __APPLE__
     return reinterpret_cast<Function>(&objc_msgSend)(receiver, selector<name>(), arguments...);

@@ -14,6 +14,9 @@ __CFNotificationCenter* CFNotificationCenterGetDarwinNotifyCenter();
 void CFNotificationCenterAddObserver(__CFNotificationCenter* center, const void* observer,
                                      CFNotificationCallback callback, rollkeeper::id name, const void* object,
                                      rollkeeper::NSInteger suspensionBehavior);
+void CFNotificationCenterPostNotification(__CFNotificationCenter* center, rollkeeper::id name,
+                                          const void* object, rollkeeper::id userInfo,
+                                          unsigned char deliverImmediately);
 } // extern "C"
 
 namespace rollkeeper::coreFoundationVersion {

@@ -31,6 +31,7 @@ struct NSString : NSObject {
                                                                                            noError);
     }
 
+    NSUInteger length() const { return send<NSString, "length", NSUInteger>(*this); }
     bool isEqualToString(NSString other) const {
         return send<NSString, "isEqualToString:", bool>(*this, other);
     }
@@ -39,6 +40,11 @@ struct NSString : NSObject {
     }
     NSString stringByAppendingString(NSString suffix) const {
         return send<NSString, "stringByAppendingString:", NSString>(*this, suffix);
+    }
+
+    bool writeToFile(NSString path, bool atomically, NSStringEncoding encoding) const {
+        return send<NSString, "writeToFile:atomically:encoding:error:", bool>(*this, path, atomically,
+                                                                              encoding, noError);
     }
 
     // containsString: arrived only with iOS 8.
@@ -203,13 +209,16 @@ struct NSMutableSet : NSObject {
 struct NSDictionary : NSObject {
     static constexpr FixedString className = "NSDictionary";
 
-    NSObject objectForKey(NSString key) const {
+    NSObject objectForKey(NSObject key) const {
         return send<NSDictionary, "objectForKey:", NSObject>(*this, key);
     }
     NSObject valueForKey(NSString key) const {
         return send<NSDictionary, "valueForKey:", NSObject>(*this, key);
     }
     NSArray allKeys() const { return send<NSDictionary, "allKeys", NSArray>(*this); }
+    bool writeToFile(NSString path, bool atomically) const {
+        return send<NSDictionary, "writeToFile:atomically:", bool>(*this, path, atomically);
+    }
 };
 
 struct NSMutableDictionary : NSDictionary {
@@ -266,6 +275,9 @@ struct NSBundle : NSObject {
     static constexpr FixedString className = "NSBundle";
 
     static NSBundle mainBundle() { return sendToClass<NSBundle, "mainBundle", NSBundle>(); }
+    static NSBundle bundleWithPath(NSString path) {
+        return sendToClass<NSBundle, "bundleWithPath:", NSBundle>(path);
+    }
 
     NSString bundleIdentifier() const { return send<NSBundle, "bundleIdentifier", NSString>(*this); }
     NSString localizedString(NSString key, NSString value, NSString table) const {
@@ -288,6 +300,9 @@ struct NSFileManager : NSObject {
     void createDirectoryAtPath(NSString path) const {
         send<NSFileManager, "createDirectoryAtPath:withIntermediateDirectories:attributes:error:", bool>(
             *this, path, true, NSDictionary(), NSString::noError);
+    }
+    bool removeItemAtPath(NSString path) const {
+        return send<NSFileManager, "removeItemAtPath:error:", bool>(*this, path, NSString::noError);
     }
 };
 
