@@ -27,6 +27,11 @@
 }
 /// The albums of a folder; nil stands for the whole library.
 - (instancetype)initWithCollectionList:(PHCollectionList*)list;
+/// Lets the user choose an album to put the photos (PHAsset) into, over the presenter; the list goes away as
+/// the handler runs.
++ (void)presentPickerForAssets:(NSArray*)assets
+            fromViewController:(UIViewController*)presenter
+             completionHandler:(void (^)(BOOL added))handler;
 /// nil unless an album is being picked; set before the view loads.
 @property (nonatomic, retain) PUAlbumPickerSessionInfo* sessionInfo;
 @property (nonatomic) BOOL disallowsSearch;

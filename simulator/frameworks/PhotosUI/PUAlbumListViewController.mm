@@ -1,6 +1,7 @@
 #import "PhotosUI/PUAlbumListViewController.h"
 
 #import "Dispatch/Dispatch.h"
+#import "PhotosUI/PUNavigationController.h"
 #import "PhotosUI/PUPhotosGrid.h"
 #import "PhotosUI/PURootCollections.h"
 
@@ -27,7 +28,7 @@ CGFloat coverSideForWidth(CGFloat width) {
         if (known.screenWidth == width) return known.side;
     constexpr CGFloat margin = 16;
     constexpr CGFloat widestCover = 180;
-    CGFloat columns = std::max<CGFloat>(2, std::floor((width - margin) / (widestCover + margin)));
+    CGFloat columns = std::max<CGFloat>(2, std::ceil((width - margin) / (widestCover + margin)));
     return std::floor((width - margin * (columns + 1)) / columns);
 }
 
@@ -136,6 +137,22 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     _collectionList = [list retain];
     [self setTitle:list ? [list localizedTitle] : @"Albums"];
     return self;
+}
+
++ (void)presentPickerForAssets:(NSArray*)assets
+            fromViewController:(UIViewController*)presenter
+             completionHandler:(void (^)(BOOL added))handler {
+    PUAlbumPickerSessionInfo* session = [[[PUAlbumPickerSessionInfo alloc]
+        initWithTransferredAssets:assets
+                completionHandler:^(BOOL added) {
+                    [presenter dismissViewControllerAnimated:YES completion:nil];
+                    handler(added);
+                }] autorelease];
+    PUAlbumListViewController* list = [[[self alloc] init] autorelease];
+    [list setSessionInfo:session];
+    PUNavigationController* navigation =
+        [[[PUNavigationController alloc] initWithRootViewController:list] autorelease];
+    [presenter presentViewController:navigation animated:YES completion:nil];
 }
 
 - (void)dealloc {

@@ -81,6 +81,7 @@
 /// Takes the asset out of the trash.
 - (void)_performRestoreAction;
 - (void)_performTrashAction;
+- (void)_performAddToAlbumAction;
 @end
 
 /// One photo or video, as large as the screen.

@@ -1,6 +1,7 @@
 #import "PhotosUI/PUOneUp.h"
 
 #import "Dispatch/Dispatch.h"
+#import "PhotosUI/PUAlbumListViewController.h"
 #import "PhotosUI/PUDeletePhotosActionController.h"
 
 @implementation PUOneUpBarsController
@@ -21,14 +22,21 @@
     [super dealloc];
 }
 
+- (UIBarButtonItem*)_itemTitled:(NSString*)title action:(SEL)action {
+    return [[[UIBarButtonItem alloc] initWithTitle:title
+                                             style:UIBarButtonItemStylePlain
+                                            target:self
+                                            action:action] autorelease];
+}
+
 - (void)updateBars {
-    BOOL trash = [_browsingSession isInTrash];
-    SEL action = trash ? @selector(_performRestoreAction) : @selector(_performTrashAction);
-    UIBarButtonItem* item = [[[UIBarButtonItem alloc] initWithTitle:trash ? @"Recover" : @"Delete"
-                                                              style:UIBarButtonItemStylePlain
-                                                             target:self
-                                                             action:action] autorelease];
-    [_viewController setToolbarItems:@[ item ] animated:NO];
+    NSArray* items = [_browsingSession isInTrash]
+                         ? @[ [self _itemTitled:@"Recover" action:@selector(_performRestoreAction)] ]
+                         : @[
+                               [self _itemTitled:@"Add To" action:@selector(_performAddToAlbumAction)],
+                               [self _itemTitled:@"Delete" action:@selector(_performTrashAction)]
+                           ];
+    [_viewController setToolbarItems:items animated:NO];
 }
 
 - (PHAsset*)_currentAsset {
@@ -61,6 +69,15 @@
                            completion:^(BOOL success) {
                                if (success) [[controller navigationController] popViewControllerAnimated:YES];
                            }];
+}
+
+- (void)_performAddToAlbumAction {
+    PHAsset* asset = [self _currentAsset];
+    if (asset == nil) return;
+    [PUAlbumListViewController presentPickerForAssets:@[ asset ]
+                                   fromViewController:_viewController
+                                    completionHandler:^(BOOL){
+                                    }];
 }
 
 @end

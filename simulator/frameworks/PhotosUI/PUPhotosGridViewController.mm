@@ -304,18 +304,11 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
 }
 
 - (void)_addToAlbumButtonPressed:(id)sender {
-    PUAlbumPickerSessionInfo* session = [[[PUAlbumPickerSessionInfo alloc]
-        initWithTransferredAssets:[self _selectionAsArray]
-                completionHandler:^(BOOL) {
-                    [self dismissViewControllerAnimated:YES completion:nil];
-                    [self _endSelecting];
-                }] autorelease];
-    PUAlbumListViewController* list =
-        [[[PUAlbumListViewController alloc] initWithCollectionList:nil] autorelease];
-    [list setSessionInfo:session];
-    PUNavigationController* navigation =
-        [[[PUNavigationController alloc] initWithRootViewController:list] autorelease];
-    [self presentViewController:navigation animated:YES completion:nil];
+    [PUAlbumListViewController presentPickerForAssets:[self _selectionAsArray]
+                                   fromViewController:self
+                                    completionHandler:^(BOOL) {
+                                        [self _endSelecting];
+                                    }];
 }
 
 @end

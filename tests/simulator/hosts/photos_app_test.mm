@@ -189,6 +189,15 @@ TEST_F(PhotosApp, one_up_view_knows_its_asset) {
     EXPECT_TRUE([[photos::library() tabBar] isHidden]);
 }
 
+TEST_F(PhotosApp, adds_the_photo_of_the_one_up_view_to_an_album) {
+    startPhotos();
+    PUOneUpViewController* oneUp = photos::openPhoto(photos::openMoments(), 5);
+    photos::addSelectionToAlbum();
+    photos::tapAlbum("Pets");
+    waitFor([&] { return [oneUp presentedViewController] == nil; });
+    EXPECT_THAT(numbersIn("Pets"), ElementsAre(5U));
+}
+
 TEST_F(PhotosApp, skips_the_question_when_told_to) {
     startPhotos();
     PUDeletePhotosActionController* action =

@@ -19,7 +19,7 @@ PSListController* pane();
 /// Goes back to the list of Settings and taps the row of an installed tool.
 PSListController* openEntry(const std::string& label);
 
-/// The rows of a pane: [{"group": title or null}, {"label": "Enabled", "cell": "PSSwitchCell", "key": ...,
+/// The rows of a pane: [{"group": title or null, "footer": ...}, {"label": "Enabled", "cell": "PSSwitchCell", "key": ...,
 /// "value": ...}].
 nlohmann::json describePane(PSListController* pane);
 

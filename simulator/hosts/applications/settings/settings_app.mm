@@ -32,7 +32,8 @@ id asObject(const json& value) {
 
 json describe(PSSpecifier* specifier) {
     if ([specifier cellType] == PSGroupCell)
-        return {{"group", [specifier name] ? json(text([specifier name])) : json()}};
+        return {{"group", asJson([specifier name])},
+                {"footer", asJson([specifier propertyForKey:PSFooterTextGroupKey])}};
     return {{"label", text([specifier name])},
             {"cell", text([PSTableCell stringFromCellType:[specifier cellType]])},
             {"key", asJson([specifier propertyForKey:PSKeyNameKey])},
