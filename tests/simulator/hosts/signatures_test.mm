@@ -68,6 +68,7 @@ const Exception differing[] = {
     // String encodings are 32 bits wide in the desk's Foundation; they travel in a register all the same.
     {"NSString", "stringWithContentsOfFile:encoding:error:"},
     {"NSString", "initWithContentsOfFile:encoding:error:"},
+    {"NSString", "writeToFile:atomically:encoding:error:"},
 };
 
 // Inherited in the first releases only; later the class has its own, as here.
