@@ -1,5 +1,6 @@
 #import "UIKit/UIView.h"
 
+#import "UIKit/internal/AnimatedViews.h"
 #import "UIKit/internal/MainThread.h"
 #import "UIKit/internal/Ownership.h"
 #include "device/clock.h"
@@ -13,10 +14,18 @@
                  completion:(void (^)(BOOL finished))completion {
     simulator::mainThreadOnly(self, _cmd);
     if (!animations) [NSException raise:NSInvalidArgumentException format:@"animations must not be nil"];
-    animations();
-    if (!completion) return;
+    std::vector<simulator::Retained<UIView*>> deafViews;
+    {
+        const simulator::AnimationScope scope((options & UIViewAnimationOptionAllowUserInteraction) != 0);
+        animations();
+        deafViews = scope.deafViews();
+    }
+    if (!completion && deafViews.empty()) return;
     const simulator::OwnedBlock<void (^)(BOOL)> finish(completion);
-    simulator::clock().after(duration + delay, [finish] { finish(BOOL(YES)); });
+    simulator::clock().after(duration + delay, [finish, deafViews] {
+        simulator::endAnimation(deafViews);
+        finish(BOOL(YES));
+    });
 }
 
 + (void)animateWithDuration:(NSTimeInterval)duration

@@ -117,7 +117,8 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 @interface UIView (Animation)
 
 // The final values stand at once; the completion runs on the main run loop after delay + duration (seconds)
-// of the device's clock. `animations` must not be nil, `completion` may be.
+// of the device's clock. `animations` must not be nil, `completion` may be. Unless the options allow it, the
+// views that it changes take no touches meanwhile.
 + (void)animateWithDuration:(NSTimeInterval)duration
                       delay:(NSTimeInterval)delay
                     options:(UIViewAnimationOptions)options

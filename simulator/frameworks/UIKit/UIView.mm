@@ -4,6 +4,7 @@
 #import "UIKit/UIGestureRecognizer.h"
 #import "UIKit/UIViewController.h"
 #import "UIKit/UIWindow.h"
+#import "UIKit/internal/AnimatedViews.h"
 #import "UIKit/internal/LayoutQueue.h"
 #import "UIKit/internal/MainThread.h"
 #import "UIKit/internal/RecognizerState.h"
@@ -72,6 +73,7 @@ auto positionOf(ViewState& parent, UIView* child) {
 
 - (void)setFrame:(CGRect)frame {
     mainThreadOnly(self, _cmd);
+    simulator::noteChange(self);
     const CGSize before = _viewState->geometry.bounds().size;
     _viewState->geometry.setFrame(frame);
     [self sizeChangedFrom:before];
@@ -84,6 +86,7 @@ auto positionOf(ViewState& parent, UIView* child) {
 
 - (void)setBounds:(CGRect)bounds {
     mainThreadOnly(self, _cmd);
+    simulator::noteChange(self);
     const CGSize before = _viewState->geometry.bounds().size;
     _viewState->geometry.setBounds(bounds);
     [self sizeChangedFrom:before];
@@ -96,6 +99,7 @@ auto positionOf(ViewState& parent, UIView* child) {
 
 - (void)setCenter:(CGPoint)center {
     mainThreadOnly(self, _cmd);
+    simulator::noteChange(self);
     _viewState->geometry.setCenter(center);
 }
 
@@ -329,6 +333,7 @@ auto positionOf(ViewState& parent, UIView* child) {
 
 - (void)setAlpha:(CGFloat)alpha {
     mainThreadOnly(self, _cmd);
+    simulator::noteChange(self);
     _viewState->alpha = alpha;
 }
 
@@ -515,7 +520,7 @@ auto positionOf(ViewState& parent, UIView* child) {
 - (UIView*)hitTest:(CGPoint)point withEvent:(id)event {
     mainThreadOnly(self, _cmd);
     if ([self isHidden] || [self alpha] < leastTouchableAlpha || ![self isUserInteractionEnabled]) return nil;
-    if (![self pointInside:point withEvent:event]) return nil;
+    if (_viewState->animationsWithoutTouches > 0 || ![self pointInside:point withEvent:event]) return nil;
     for (UIView* subview in [[self subviews] reverseObjectEnumerator]) {
         const CGPoint inside = [subview viewState].geometry.fromSuperview(point);
         if (UIView* hit = [subview hitTest:inside withEvent:event]) return hit;

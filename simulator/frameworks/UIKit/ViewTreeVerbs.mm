@@ -1,4 +1,5 @@
 // The verbs of a host's control socket that see and touch its screen.
+#import "UIKit/Screenshot.h"
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
 #import "UIKit/internal/Strings.h"
@@ -91,6 +92,7 @@ template <typename Input> Verb silent(Input input) {
 
 __attribute__((constructor)) void registerViewTreeVerbs() {
     registerVerb("viewTree", [](const json&) { return viewTreeAsJson(); });
+    registerVerb("screenshot", [](const json&) { return json{{"svg", screenshotAsSvg()}}; });
     registerVerb("tap", tapVerb);
     registerVerb("longPress", longPressVerb);
     registerVerb("chooseActivity", chooseActivity);

@@ -38,6 +38,26 @@ TEST_F(Animation, without_duration_completes_with_the_next_turn) {
     EXPECT_EQ(notes(), (std::vector<std::string>{"finished"}));
 }
 
+TEST_F(Animation, keeps_touches_from_the_views_it_moves_unless_allowed) {
+    UIView* behind = addView(CGRectMake(0, 0, 100, 100));
+    UIView* view = addView(CGRectMake(0, 0, 100, 100));
+    const auto animate = [view](UIViewAnimationOptions options) {
+        [UIView animateWithDuration:1
+                              delay:0
+                            options:options
+                         animations:^{
+                             [view setAlpha:0.5];
+                         }
+                         completion:nil];
+    };
+    animate(0);
+    EXPECT_EQ(tap(view), behind);
+    clock().advance(1);
+    EXPECT_EQ(tap(view), view);
+    animate(UIViewAnimationOptionAllowUserInteraction);
+    EXPECT_EQ(tap(view), view);
+}
+
 TEST_F(Animation, needs_something_to_animate_but_no_completion) {
     [UIView animateWithDuration:0.1
                      animations:^{

@@ -1,5 +1,7 @@
 #import "simulator/uikit/uikit_test.h"
 
+#include "UIKit/Screenshot.h"
+
 // Counts the instances that are alive.
 @interface CountedView : UIView
 @end
@@ -95,6 +97,27 @@ TEST_F(ViewTree, verbs_see_touch_and_type) {
     EXPECT_TRUE([[field text] isEqualToString:@"abc"]);
     EXPECT_TRUE([field isFirstResponder]);
     EXPECT_EQ(performVerb({{"do", "viewTree"}}), viewTreeAsJson());
+}
+
+TEST_F(ViewTree, the_picture_of_the_screen_shows_what_can_be_seen) {
+    const auto addLabel = [this](NSString* text) {
+        UILabel* label = [[[UILabel alloc] initWithFrame:CGRectMake(10, 10, 100, 20)] autorelease];
+        [label setText:text];
+        [screen() addSubview:label];
+        return label;
+    };
+    addLabel(@"Fish & <Chips>");
+    [addLabel(@"hidden away") setHidden:YES];
+    [addLabel(@"faded away") setAlpha:0];
+    UIAlertController* alert = [UIAlertController alertControllerWithTitle:@"Sure?"
+                                                                   message:nil
+                                                            preferredStyle:UIAlertControllerStyleAlert];
+    [root() presentViewController:alert animated:NO completion:nil];
+    const std::string picture = screenshotAsSvg();
+    EXPECT_NE(picture.find(">Fish &amp; &lt;Chips&gt;</text>"), std::string::npos) << picture;
+    EXPECT_NE(picture.find(">Sure?</text>"), std::string::npos);
+    EXPECT_EQ(picture.find("away"), std::string::npos);
+    EXPECT_EQ(performVerb({{"do", "screenshot"}}).at("svg"), picture);
 }
 
 TEST_F(ViewTree, views_are_freed_with_their_superview) {

@@ -22,6 +22,7 @@ struct ViewState {
     std::vector<Retained<UIGestureRecognizer*>> recognizers;
     NSInteger tag = 0;
     CGFloat alpha = 1;
+    int animationsWithoutTouches = 0; // that are under way
     UIViewAutoresizing autoresizingMask = UIViewAutoresizingNone;
     UIViewContentMode contentMode = UIViewContentModeScaleToFill;
     bool autoresizesSubviews = true;

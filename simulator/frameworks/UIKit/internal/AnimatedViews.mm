@@ -1,0 +1,31 @@
+#import "UIKit/internal/AnimatedViews.h"
+
+#import "UIKit/internal/ViewState.h"
+
+#include <utility>
+
+namespace simulator {
+
+namespace {
+
+AnimationScope* innermost = nullptr; // main thread only
+
+} // namespace
+
+AnimationScope::AnimationScope(bool allowsTouches)
+    : m_allowsTouches(allowsTouches), m_outer(std::exchange(innermost, this)) {}
+
+AnimationScope::~AnimationScope() { innermost = m_outer; }
+
+void noteChange(UIView* view) {
+    if (!innermost || innermost->m_allowsTouches) return;
+    innermost->m_deafViews.emplace_back(view);
+    ++[view viewState].animationsWithoutTouches;
+}
+
+void endAnimation(const std::vector<Retained<UIView*>>& deafViews) {
+    for (const auto& view : deafViews)
+        --[view.get() viewState].animationsWithoutTouches;
+}
+
+} // namespace simulator

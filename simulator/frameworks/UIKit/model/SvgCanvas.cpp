@@ -1,0 +1,115 @@
+#include "UIKit/model/SvgCanvas.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace simulator {
+
+namespace {
+
+std::string attributes(CGRect rect) {
+    std::ostringstream out;
+    out << " x=\"" << rect.origin.x << "\" y=\"" << rect.origin.y << "\" width=\"" << rect.size.width
+        << "\" height=\"" << rect.size.height << '"';
+    return out.str();
+}
+
+std::string paint(const char* what, SvgColor color) {
+    const auto byte = [](CGFloat share) { return std::lround(std::clamp<CGFloat>(share, 0, 1) * 255); };
+    std::ostringstream out;
+    out << ' ' << what << "=\"rgb(" << byte(color.red) << ',' << byte(color.green) << ',' << byte(color.blue)
+        << ")\" " << what << "-opacity=\"" << color.alpha << '"';
+    return out.str();
+}
+
+// Control characters have no place in the document, not even escaped.
+std::string escaped(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        switch (c) {
+        case '<':
+            result += "&lt;";
+            break;
+        case '>':
+            result += "&gt;";
+            break;
+        case '&':
+            result += "&amp;";
+            break;
+        case '"':
+            result += "&quot;";
+            break;
+        default:
+            result += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
+        }
+    }
+    return result;
+}
+
+std::string base64(std::span<const std::uint8_t> bytes) {
+    constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string result;
+    for (std::size_t i = 0; i < bytes.size(); i += 3) {
+        const auto rest = bytes.subspan(i, std::min<std::size_t>(3, bytes.size() - i));
+        unsigned group = 0;
+        for (std::size_t k = 0; k < 3; ++k)
+            group = group << 8 | (k < rest.size() ? rest[k] : 0U);
+        for (std::size_t k = 0; k < 4; ++k)
+            result += k <= rest.size() ? digits[group >> (18 - 6 * k) & 63] : '=';
+    }
+    return result;
+}
+
+} // namespace
+
+SvgCanvas::SvgCanvas(CGSize size) {
+    m_out << "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\""
+          << size.width << "\" height=\"" << size.height
+          << "\" font-family=\"Helvetica, Arial, sans-serif\">\n";
+}
+
+void SvgCanvas::beginGroup(CGPoint origin, CGFloat opacity, std::optional<CGRect> clip) {
+    std::string clipAttribute;
+    if (clip) {
+        const std::string name = "clip" + std::to_string(++m_clips);
+        m_out << "<clipPath id=\"" << name << "\"><rect" << attributes(*clip) << "/></clipPath>\n";
+        clipAttribute = " clip-path=\"url(#" + name + ")\"";
+    }
+    m_out << "<g transform=\"translate(" << origin.x << ',' << origin.y << ")\"";
+    if (opacity != 1) m_out << " opacity=\"" << opacity << '"';
+    m_out << clipAttribute << ">\n";
+}
+
+void SvgCanvas::endGroup() { m_out << "</g>\n"; }
+
+void SvgCanvas::rectangle(CGRect rect, SvgColor fill, CGFloat cornerRadius, std::optional<SvgColor> border) {
+    m_out << "<rect" << attributes(rect) << paint("fill", fill);
+    if (cornerRadius > 0) m_out << " rx=\"" << cornerRadius << '"';
+    if (border) m_out << paint("stroke", *border);
+    m_out << "/>\n";
+}
+
+void SvgCanvas::line(CGRect rect, std::string_view text, const SvgText& style) {
+    constexpr std::array anchors = {"start", "middle", "end"};
+    const int alignment = std::clamp(style.alignment, 0, 2);
+    const CGFloat x = rect.origin.x + rect.size.width * alignment / 2;
+    const CGFloat baseline = CGRectGetMidY(rect) + style.size * 0.35; // half the height of a capital
+    m_out << "<text x=\"" << x << "\" y=\"" << baseline << "\" font-size=\"" << style.size
+          << "\" text-anchor=\"" << anchors[static_cast<std::size_t>(alignment)] << '"'
+          << paint("fill", style.color);
+    if (style.bold) m_out << " font-weight=\"bold\"";
+    m_out << '>' << escaped(text) << "</text>\n";
+}
+
+void SvgCanvas::picture(CGRect rect, std::span<const std::uint8_t> png) {
+    m_out << "<image" << attributes(rect)
+          << " preserveAspectRatio=\"none\" xlink:href=\"data:image/png;base64," << base64(png) << "\"/>\n";
+}
+
+std::string SvgCanvas::document() {
+    m_out << "</svg>\n";
+    return m_out.str();
+}
+
+} // namespace simulator
