@@ -5,33 +5,7 @@
 #import "Preferences/PSSpecifier.h"
 #import "Preferences/PSTableCell.h"
 
-#include "device/root.h"
-#include "loader/loader.h"
-
 #include <objc/runtime.h>
-
-namespace {
-
-// A bundle of the device holds code for the device, which the desk's NSBundle cannot load.
-Class principalClassOfBundle(NSString* path) {
-    NSDictionary* info =
-        [NSDictionary dictionaryWithContentsOfFile:[path stringByAppendingPathComponent:@"Info.plist"]];
-    NSString* executable = [info objectForKey:@"CFBundleExecutable"];
-    NSString* className = [info objectForKey:@"NSPrincipalClass"];
-    if (executable == nil || className == nil) {
-        NSLog(@"Settings: %@ is no preference bundle", path);
-        return Nil;
-    }
-    NSString* file = [path stringByAppendingPathComponent:executable];
-    const simulator::LoadResult result = simulator::loadLibrary(simulator::deskPath([file UTF8String]));
-    if (const auto* error = std::get_if<simulator::LoadError>(&result)) {
-        NSLog(@"Settings: %s", error->message.c_str());
-        return Nil;
-    }
-    return objc_getClass([className UTF8String]);
-}
-
-} // namespace
 
 @implementation PSListController
 
@@ -210,8 +184,12 @@ Class principalClassOfBundle(NSString* path) {
 
 - (void)lazyLoadBundle:(PSSpecifier*)specifier {
     NSString* path = [specifier propertyForKey:PSLazilyLoadedBundleKey];
-    Class paneClass = principalClassOfBundle(path);
-    if (paneClass == Nil) return;
+    NSBundle* bundle = path ? [NSBundle bundleWithPath:path] : nil;
+    if (![bundle load]) {
+        NSLog(@"Settings: the bundle at %@ could not be loaded", path);
+        return;
+    }
+    Class paneClass = [bundle principalClass];
     if ([[specifier propertyForKey:PSBundleOverridePrincipalClassKey] boolValue]) {
         Class named = objc_getClass([[specifier propertyForKey:PSDetailControllerClassKey] UTF8String]);
         if (named) paneClass = named;
