@@ -15,6 +15,8 @@ std::string hostProgram();
 /// The command that must precede a program of this build to run it, with its arguments, separated by blanks;
 /// empty when programs run as they are.
 std::string emulator();
+/// The tree of files that the package installs.
+std::string deviceFiles();
 /// The folder tests/data.
 std::string dataDirectory();
 
