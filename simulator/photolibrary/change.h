@@ -51,10 +51,10 @@ class Change {
     /// Changes the properties that are set.
     struct EditAsset {
         std::string asset;
-        std::optional<bool> hidden = {};
-        std::optional<bool> favorite = {};
-        std::optional<bool> trashed = {};
-        std::optional<double> created = {};
+        std::optional<bool> hidden = std::nullopt;
+        std::optional<bool> favorite = std::nullopt;
+        std::optional<bool> trashed = std::nullopt;
+        std::optional<double> created = std::nullopt;
     };
     /// Moves an asset to the trash; one that is there leaves the library.
     struct DeleteAsset {

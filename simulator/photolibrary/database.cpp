@@ -133,23 +133,18 @@ std::int64_t Connection::lastInsertedRow() const { return sqlite3_last_insert_ro
 
 std::int64_t Connection::changedRows() const { return sqlite3_changes64(m_database); }
 
+bool Connection::isInTransaction() const { return sqlite3_get_autocommit(m_database) == 0; }
+
 Transaction::Transaction(Connection& connection) : m_connection(connection) {
     connection.execute("BEGIN IMMEDIATE");
 }
 
 Transaction::~Transaction() {
-    if (!m_open) return;
-    try {
-        m_connection.execute("ROLLBACK");
-    } catch (const DatabaseError&) {
-        // SQLite has taken the transaction back by itself, as it does on a full disk.
-    }
+    // SQLite takes a transaction back by itself on some errors, such as a full disk.
+    if (m_connection.isInTransaction()) m_connection.execute("ROLLBACK");
 }
 
-void Transaction::commit() {
-    m_connection.execute("COMMIT");
-    m_open = false;
-}
+void Transaction::commit() { m_connection.execute("COMMIT"); }
 
 Database::Lease Database::borrow() {
     {

@@ -36,8 +36,7 @@ class Statement {
     Statement& bind(double value);
     Statement& bind(std::string_view value);
     /// NULL when there is no value.
-    template <class Value>
-    Statement& bind(const std::optional<Value>& value) {
+    template <class Value> Statement& bind(const std::optional<Value>& value) {
         return value ? bind(*value) : bindNull();
     }
     Statement& bindBlob(std::string_view bytes);
@@ -76,6 +75,7 @@ class Connection {
     std::int64_t lastInsertedRow() const;
     /// The rows that the last statement changed.
     std::int64_t changedRows() const;
+    bool isInTransaction() const;
 
   private:
     sqlite3* m_database = nullptr;
@@ -94,7 +94,6 @@ class Transaction {
 
   private:
     Connection& m_connection;
-    bool m_open = true;
 };
 
 /// Connections to one file. Any thread; must not be carried over a fork.

@@ -7,6 +7,7 @@
 #include "photolibrary/smart_albums.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cmath>
 #include <cstdio>
 #include <map>
@@ -69,7 +70,7 @@ Collections readCollections(Statement statement) {
 struct Source {
     std::string tables = "asset";
     std::string condition;
-    std::vector<double> parameters = {};
+    std::vector<double> parameters = {}; // NOLINT(readability-redundant-member-init): may be left out
     std::string order = "created, asset.row";
     bool leavesOutHidden = true;
     bool leavesOutTrashed = true;
@@ -133,10 +134,9 @@ Statement select(Connection& connection, const char* what, const Source& source,
 std::int64_t dayOf(double date) { return static_cast<std::int64_t>(std::floor(date / secondsPerDay)); }
 
 std::string momentIdentifier(std::int64_t day) {
-    char text[64];
     // Days before 2001 are negative; the identifier counts from three centuries earlier.
-    std::snprintf(text, sizeof text, "00000000-0000-4000-9000-%012lld/L0/060",
-                  static_cast<long long>(day + 110'000));
+    char text[64];
+    std::snprintf(text, sizeof text, "00000000-0000-4000-9000-%012" PRId64 "/L0/060", day + 110'000);
     return text;
 }
 

@@ -20,7 +20,7 @@ class Device;
 /// Which assets a query leaves out. Assets in the trash are in the trash bin only.
 struct AssetFilter {
     bool includeHidden = false;
-    std::optional<MediaType> mediaType = {};
+    std::optional<MediaType> mediaType = std::nullopt;
 };
 
 /// Every query reads what is committed at that moment. Any thread; do not carry one over a fork. Errors of

@@ -35,12 +35,13 @@ inline constexpr std::int64_t located = 1 << 4;
 /// A photo or video. Its picture is made from the seed unless one is stored.
 struct Asset {
     std::int64_t row = 0;
-    std::string identifier = {}; ///< empty: the library gives one
+    // Written out so that designated initialisers may leave it out.
+    std::string identifier = {}; // NOLINT(readability-redundant-member-init): empty, the library gives one
     MediaType mediaType = MediaType::image;
     std::int64_t mediaSubtypes = 0;
     std::int64_t traits = 0;
-    std::optional<double> created = {}; ///< seconds since 1 January 2001, UTC
-    double duration = 0;                ///< seconds, of a video
+    std::optional<double> created = std::nullopt; ///< seconds since 1 January 2001, UTC
+    double duration = 0;                          ///< seconds, of a video
     bool hidden = false;
     bool favorite = false;
     bool trashed = false;

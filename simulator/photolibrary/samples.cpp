@@ -92,7 +92,7 @@ Asset sampleAsset(std::size_t number, Numbers& numbers) {
 }
 
 std::optional<std::string> sampleTitle(std::size_t number) {
-    const std::string counted = "Album " + std::to_string(number);
+    std::string counted = "Album " + std::to_string(number);
     switch (number % 100) {
     case 10:
         return "Repeated";

@@ -1,6 +1,7 @@
 #include "photolibrary/smart_albums.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cstdio>
 #include <limits>
 #include <string>
@@ -33,8 +34,7 @@ constexpr SmartAlbum table[] = {
 
 std::string identifierOf(const SmartAlbum& album) {
     char text[64];
-    std::snprintf(text, sizeof text, "00000000-0000-4000-8000-%012lld/L0/040",
-                  static_cast<long long>(album.subtype));
+    std::snprintf(text, sizeof text, "00000000-0000-4000-8000-%012" PRId64 "/L0/040", album.subtype);
     return text;
 }
 

@@ -42,7 +42,7 @@ pid_t startChild(const std::function<bool()>& work) {
     try {
         succeeded = work();
     } catch (const std::exception&) {
-        // The exit status says it.
+        succeeded = false; // the exit status says it
     }
     _exit(succeeded ? EXIT_SUCCESS : EXIT_FAILURE);
 }
@@ -74,14 +74,14 @@ Change bigChange() {
     return change;
 }
 
-constexpr rlim_t smallFile = 256 * 1024;
+constexpr rlim_t smallFile = 262'144;
 
 } // namespace
 
 TEST_F(ProcessesTest, EveryProcessMayBeTheFirstToOpenTheLibrary) {
     std::array<pid_t, 6> children{};
     for (pid_t& child : children)
-        child = startChild([this] { return open()->addAlbum("Album").size() > 0; });
+        child = startChild([this] { return !open()->addAlbum("Album").empty(); });
     for (const pid_t child : children)
         EXPECT_TRUE(succeeded(child));
     EXPECT_EQ(open()->collections(CollectionKind::album).size(), children.size());

@@ -1,14 +1,13 @@
 // The sample libraries: always the same, and with something of everything.
 #include "photolibrary/samples.h"
 
-#include "photolibrary/smart_albums.h"
+#include "device/releases.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <set>
 
 namespace simulator::test {
 
@@ -29,6 +28,13 @@ class SamplesTest : public testing::Test {
     std::filesystem::path m_folder;
 };
 
+/// Nothing when there is no such album.
+std::optional<std::size_t> countIn(PhotoLibrary& library, const char* title) {
+    const std::optional<Collection> album = library.albumTitled(title);
+    if (!album) return std::nullopt;
+    return library.countOfAssetsIn(*album);
+}
+
 } // namespace
 
 TEST_F(SamplesTest, SmallSampleHoldsWhatItsDescriptionSays) {
@@ -40,7 +46,7 @@ TEST_F(SamplesTest, SmallSampleHoldsWhatItsDescriptionSays) {
         std::size_t count;
     } albums[] = {{"Holidays", 3}, {"Family", 4}, {"Work", 1}, {"Pets", 0}};
     for (const auto& [title, count] : albums)
-        EXPECT_EQ(library->countOfAssetsIn(library->albumTitled(title).value()), count) << title;
+        EXPECT_EQ(countIn(*library, title), count) << title;
 }
 
 TEST_F(SamplesTest, SampleIsTheSameEveryTime) {
@@ -65,7 +71,7 @@ TEST_F(SamplesTest, LargeSampleHasSomethingOfEverything) {
         EXPECT_EQ(library->countOfAssetsIn(album, {.includeHidden = true}), members.size());
     }
     for (const Collection& smartAlbum : library->collections(CollectionKind::smartAlbum))
-        EXPECT_GT(library->countOfAssetsIn(smartAlbum), 0u) << *smartAlbum.title;
+        EXPECT_GT(library->countOfAssetsIn(smartAlbum), 0u) << smartAlbum.subtype;
     const auto titled = [&](const auto& matches) { return std::ranges::count_if(albums, matches); };
     EXPECT_EQ(titled([](const Collection& album) { return album.title == "Repeated"; }), 2);
     EXPECT_EQ(titled([](const Collection& album) { return !album.title; }), 2);
