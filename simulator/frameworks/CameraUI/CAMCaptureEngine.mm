@@ -5,13 +5,13 @@
 
 #include "device/threads.h"
 
-NSString* const CAMCaptureEngineDidSaveNotification = @"CAMCaptureEngineDidSaveNotification";
+NSString* const CAMCaptureDidSaveNotification = @"CAMCaptureDidSaveNotification";
 
 namespace {
 constexpr CGSize photoPixels = {400, 300};
 }
 
-@implementation CAMCaptureEngine
+@implementation CAMCaptureController
 
 - (instancetype)init {
     self = [super init];
@@ -41,20 +41,16 @@ constexpr CGSize photoPixels = {400, 300};
 }
 
 - (void)captureStillImageWithError:(NSError*)error {
-    CAMCaptureEngine* engine = self;
+    CAMCaptureController* controller = self;
     NSError* outcome = [error retain];
-    simulator::performOnThread(_captureThread, [engine, outcome] {
-        auto settings =
-            [[[AVCaptureResolvedPhotoSettings alloc] initWithUniqueID:++engine->_lastCapture] autorelease];
-        [engine captureOutput:engine->_photoOutput
-            didFinishCaptureForResolvedSettings:settings
-                                          error:[outcome autorelease]];
+    simulator::performOnThread(_captureThread, [controller, outcome] {
+        auto settings = [[[AVCaptureResolvedPhotoSettings alloc] initWithUniqueID:++controller->_lastCapture]
+            autorelease];
+        [controller captureDidFinishWithSettings:settings error:[outcome autorelease]];
     });
 }
 
-- (void)captureOutput:(AVCapturePhotoOutput*)output
-    didFinishCaptureForResolvedSettings:(AVCaptureResolvedPhotoSettings*)settings
-                                  error:(NSError*)error {
+- (void)captureDidFinishWithSettings:(AVCaptureResolvedPhotoSettings*)settings error:(NSError*)error {
     if (error) return;
     NSUInteger seed = static_cast<NSUInteger>([settings uniqueID]);
     [self _saveToLibrary:^{
@@ -76,10 +72,24 @@ constexpr CGSize photoPixels = {400, 300};
                                           if (!success) return;
                                           dispatch_async(dispatch_get_main_queue(), ^{
                                               [[NSNotificationCenter defaultCenter]
-                                                  postNotificationName:CAMCaptureEngineDidSaveNotification
+                                                  postNotificationName:CAMCaptureDidSaveNotification
                                                                 object:self];
                                           });
                                       }];
+}
+
+@end
+
+@implementation CAMCaptureEngine
+
+- (void)captureDidFinishWithSettings:(AVCaptureResolvedPhotoSettings*)settings error:(NSError*)error {
+    [self captureOutput:_photoOutput didFinishCaptureForResolvedSettings:settings error:error];
+}
+
+- (void)captureOutput:(AVCapturePhotoOutput*)output
+    didFinishCaptureForResolvedSettings:(AVCaptureResolvedPhotoSettings*)settings
+                                  error:(NSError*)error {
+    [super captureDidFinishWithSettings:settings error:error];
 }
 
 @end

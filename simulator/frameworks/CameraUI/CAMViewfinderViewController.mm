@@ -33,22 +33,23 @@ UIImage* pictureOfNewestPhoto() {
 
 @implementation CAMViewfinderViewController
 
-@synthesize captureEngine = _captureEngine, bottomBar = _bottomBar;
+@synthesize captureController = _captureController, bottomBar = _bottomBar;
 
 - (instancetype)init {
     self = [super init];
     if (!self) return nil;
-    _captureEngine = [[CAMCaptureEngine alloc] init];
+    Class engineClass = objc_getClass("CAMCaptureEngine");
+    _captureController = [[engineClass ? engineClass : [CAMCaptureController class] alloc] init];
     [[NSNotificationCenter defaultCenter] addObserver:self
                                              selector:@selector(_engineDidSave:)
-                                                 name:CAMCaptureEngineDidSaveNotification
-                                               object:_captureEngine];
+                                                 name:CAMCaptureDidSaveNotification
+                                               object:_captureController];
     return self;
 }
 
 - (void)dealloc {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
-    [_captureEngine release];
+    [_captureController release];
     [_bottomBar release];
     [super dealloc];
 }
@@ -71,7 +72,7 @@ UIImage* pictureOfNewestPhoto() {
 }
 
 - (void)_shutterPressed:(id)sender {
-    [_captureEngine captureStillImageWithError:nil];
+    [_captureController captureStillImageWithError:nil];
 }
 
 - (void)_engineDidSave:(NSNotification*)notification {

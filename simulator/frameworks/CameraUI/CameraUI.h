@@ -3,29 +3,34 @@
 #import "AVFoundation/AVFoundation.h"
 #import "UIKit/UIKit.h"
 
-@class CAMCaptureEngine, CAMImageWell;
+@class CAMImageWell;
 
-/// Runs the camera. Its callbacks arrive on a thread of its own that runs a run loop; the engine lives as
-/// long as the process.
-@interface CAMCaptureEngine : NSObject {
+/// Runs the camera, and is all of it before iOS 9. Captures end on a thread of its own that runs a run loop;
+/// the controller lives as long as the process.
+@interface CAMCaptureController : NSObject {
     NSThread* _captureThread;
     AVCapturePhotoOutput* _photoOutput;
     int64_t _lastCapture;
 }
-/// Takes a photo: the callback below follows on the capture thread, with the error when there is one. Any
-/// thread.
+/// Takes a photo, which fails when there is an error; the end of the capture follows on the capture thread.
+/// Any thread.
 - (void)captureStillImageWithError:(NSError*)error;
 /// Records a video, which then is in the library. Any thread.
 - (void)captureVideo;
-/// Puts the photo into the library, unless the capture failed.
+- (NSThread*)captureThread;
+/// Puts the photo into the library, unless the capture failed. Capture thread.
+- (void)captureDidFinishWithSettings:(AVCaptureResolvedPhotoSettings*)settings error:(NSError*)error;
+@end
+
+/// The camera from iOS 9 on: it is told of the end of a capture by the photo output.
+@interface CAMCaptureEngine : CAMCaptureController
 - (void)captureOutput:(AVCapturePhotoOutput*)output
     didFinishCaptureForResolvedSettings:(AVCaptureResolvedPhotoSettings*)settings
                                   error:(NSError*)error;
-- (NSThread*)captureThread;
 @end
 
-/// Posted on the main thread when a photo or video of the engine (the object) has reached the library.
-extern NSString* const CAMCaptureEngineDidSaveNotification;
+/// Posted on the main thread when a photo or video of the controller (the object) has reached the library.
+extern NSString* const CAMCaptureDidSaveNotification;
 
 /// The small picture of the newest photo beside the shutter button.
 @interface CAMImageWell : UIButton {
@@ -50,9 +55,9 @@ extern NSString* const CAMCaptureEngineDidSaveNotification;
 
 /// The screen of the camera.
 @interface CAMViewfinderViewController : UIViewController {
-    CAMCaptureEngine* _captureEngine;
+    CAMCaptureController* _captureController;
     CAMBottomBar* _bottomBar;
 }
-@property (nonatomic, readonly) CAMCaptureEngine* captureEngine;
+@property (nonatomic, readonly) CAMCaptureController* captureController;
 @property (nonatomic, readonly) CAMBottomBar* bottomBar;
 @end

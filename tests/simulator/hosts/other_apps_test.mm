@@ -54,6 +54,21 @@ TEST_F(CameraApp, takes_photos_into_the_library) {
     EXPECT_EQ(library().visibleAssets().back().mediaType, MediaType::image);
 }
 
+class CameraReleases : public HostsTest, public testing::WithParamInterface<Release> {};
+
+TEST_P(CameraReleases, take_photos) {
+    device().changeConditions([](Conditions& conditions) { conditions.release = GetParam(); });
+    start("com.apple.camera");
+    EXPECT_EQ(objc_getClass("CAMCaptureEngine") != Nil, GetParam() >= Release::ios9_3);
+    if (GetParam() != Release::ios7_1) camera::takePhoto(); // the library itself came with iOS 8
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CameraReleases, testing::ValuesIn(allReleases), [](const auto& info) {
+    std::string name(releaseName(info.param));
+    std::ranges::replace(name, '.', '_');
+    return "release_" + name;
+});
+
 TEST_F(CameraApp, records_videos) {
     camera::takeVideo();
     EXPECT_EQ(library().visibleAssets().back().mediaType, MediaType::video);

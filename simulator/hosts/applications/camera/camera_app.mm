@@ -36,13 +36,13 @@ void takePhoto() {
 
 void failCapture() {
     NSError* error = [NSError errorWithDomain:@"AVFoundationErrorDomain" code:-11800 userInfo:nil];
-    [[viewfinder() captureEngine] captureStillImageWithError:error];
+    [[viewfinder() captureController] captureStillImageWithError:error];
     waitForCaptureThread();
 }
 
 void takeVideo() {
     const std::size_t before = assetCount();
-    [[viewfinder() captureEngine] captureVideo];
+    [[viewfinder() captureController] captureVideo];
     waitForNewAsset(before);
 }
 
@@ -58,7 +58,7 @@ void addDrawButton() {
 
 void waitForCaptureThread() {
     auto done = std::make_shared<std::atomic<bool>>(false);
-    performOnThread([[viewfinder() captureEngine] captureThread], [done] { *done = true; });
+    performOnThread([[viewfinder() captureController] captureThread], [done] { *done = true; });
     waitUntil([&] { return done->load(); }, "the capture thread");
 }
 
