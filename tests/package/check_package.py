@@ -52,6 +52,11 @@ PANE_DEPENDENCIES = {
     "/usr/lib/libSystem.B.dylib",
 }
 PANE_WEAK = {"Photos", "LocalAuthentication"}
+# What the pane imports beside what the library may import.
+PANE_IMPORTS = {
+    ("_CFNotificationCenterPostNotification", f"{check_dylib.FRAMEWORKS}/CoreFoundation.framework/CoreFoundation"),
+    ("_ivar_getOffset", "/usr/lib/libobjc.A.dylib"),
+}
 
 
 def control_faults(package):
@@ -286,7 +291,7 @@ def library_faults(package, allowed):
     yield from (f"the library: {fault}" for fault in check_dylib.faults(package.content(LIBRARY), allowed))
 
 
-def executable_faults(package):
+def executable_faults(package, allowed):
     data = package.content(EXECUTABLE)
     image = mach_o.Library(data)
     if (image.cpu_type, image.cpu_subtype) != (0x0100000C, 0):
@@ -301,6 +306,8 @@ def executable_faults(package):
             yield f"{name} is {'weak' if weak else 'not weak'}"
     for command in check_dylib.FORBIDDEN_COMMANDS.keys() & {kind for kind, _, _ in image.commands}:
         yield f"it has {check_dylib.FORBIDDEN_COMMANDS[command]}"
+    for symbol, origin in sorted(set(image.imports()) - allowed - PANE_IMPORTS):
+        yield f"it imports {symbol} from {origin}, which the list does not allow"
     if image.exported_symbols():
         yield f"it exports {', '.join(image.exported_symbols())}"
     for name in PANE_CLASSES:
@@ -337,7 +344,7 @@ def faults(data, settings, allowed):
         lambda: value_faults(Pane(package), settings),
         lambda: text_faults(package, Pane(package)),
         lambda: library_faults(package, allowed),
-        lambda: (f"the pane's executable: {fault}" for fault in executable_faults(package)),
+        lambda: (f"the pane's executable: {fault}" for fault in executable_faults(package, allowed)),
     )
     for check in checks:
         try:

@@ -182,6 +182,10 @@ class CheckPackage(unittest.TestCase):
     def test_repacking_alone_damages_nothing(self):
         self.assertEqual(self.faults(with_content(FILTER, lambda content: content)), [])
 
+    def test_imports_that_are_not_allowed_are_told(self):
+        found = check_package.faults(PACKAGE, SETTINGS, {entry for entry in ALLOWED if entry[0] != "_objc_getClass"})
+        self.assertTrue(any("the pane's executable: it imports _objc_getClass" in fault for fault in found), found)
+
     def test_every_damage_is_told(self):
         for name, (damage, expected) in DAMAGES.items():
             with self.subTest(name):
