@@ -41,8 +41,9 @@ const ReleaseFacts& factsOf(Release release) { return facts[static_cast<std::siz
 int orderOf(std::string_view version) {
     int major = 0;
     int minor = 0;
-    const char* end = version.data() + version.size();
-    const auto afterMajor = std::from_chars(version.data(), end, major).ptr;
+    const char* begin = version.data();
+    const char* end = begin + version.size();
+    const auto afterMajor = std::from_chars(begin, end, major).ptr;
     if (afterMajor < end) std::from_chars(afterMajor + 1, end, minor);
     return 100 * major + minor;
 }

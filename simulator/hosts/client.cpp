@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <stdexcept>
@@ -71,10 +72,8 @@ HostProcess::HostProcess(HostProcess&& other) noexcept
 
 void HostProcess::start() {
     std::vector<std::string> command = commandLine(m_options);
-    std::vector<char*> arguments;
-    for (std::string& argument : command)
-        arguments.push_back(argument.data());
-    arguments.push_back(nullptr);
+    std::vector<char*> arguments(command.size() + 1); // ends with a null pointer
+    std::ranges::transform(command, arguments.begin(), [](std::string& argument) { return argument.data(); });
     const pid_t parent = getpid();
     m_process = fork();
     if (m_process < 0) throw std::runtime_error(m_options.bundleIdentifier + ": cannot start a process");

@@ -46,7 +46,7 @@ extern "C" void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* s
         .selector = sel_getName(selector),
         .encoding = method == nullptr ? "" : method_getTypeEncoding(method),
         .implementation = reinterpret_cast<const void*>(replacement),
-        .slot = slot,
+        .slot = static_cast<const void*>(slot),
         .installed = method != nullptr,
     });
 }
