@@ -42,23 +42,39 @@ void drawImageView(SvgCanvas& canvas, UIView* view) {
     drawPicture(canvas, [view bounds], [static_cast<UIImageView*>(view) image]);
 }
 
+// The lines stand one below the other in the vertical middle; text of one line is cut off, not wrapped.
 void drawLabel(SvgCanvas& canvas, UIView* view) {
     auto* label = static_cast<UILabel*>(view);
-    canvas.line([label bounds], toStd([label text]), {
-        .size = [[label font] pointSize], .color = asSvg([label textColor]),
-        .alignment = static_cast<int>([label textAlignment]), .bold = [[label font] isBold] != NO
-    });
+    const CGRect bounds = [label bounds];
+    NSArray* lines = [label numberOfLines] == 1 ? [NSArray arrayWithObjects:[label text], nil]
+                                                : linesOfText([label text], [label font], bounds.size.width);
+    const CGFloat height = [[label font] lineHeight];
+    CGFloat y = CGRectGetMidY(bounds) - height * static_cast<CGFloat>([lines count]) / 2;
+    for (NSString* line in lines) {
+        canvas.line(CGRectMake(bounds.origin.x, y, bounds.size.width, height), toStd(line),
+                    {.size = [[label font] pointSize],
+                     .color = asSvg([label textColor]),
+                     .alignment = static_cast<int>([label textAlignment]),
+                     .bold = [[label font] isBold] != NO});
+        y += height;
+    }
+}
+
+std::string shownText(UITextField* field) {
+    if ([[field text] length] == 0) return toStd([field placeholder]);
+    return [field isSecureTextEntry] ? std::string([[field text] length], '*') : toStd([field text]);
+}
+
+SvgColor textColor(UITextField* field) {
+    return [[field text] length] == 0 ? gray : asSvg([field textColor]);
 }
 
 void drawTextField(SvgCanvas& canvas, UIView* view) {
     auto* field = static_cast<UITextField*>(view);
-    const bool isEmpty = [[field text] length] == 0;
-    const std::string typed =
-        [field isSecureTextEntry] ? std::string([[field text] length], '*') : toStd([field text]);
-    canvas.line([field bounds], isEmpty ? toStd([field placeholder]) : typed,
-                {.size = [[field font] pointSize],
-                 .color = isEmpty ? gray : asSvg([field textColor]),
-                 .alignment = static_cast<int>([field textAlignment])});
+    canvas.line([field bounds], shownText(field), {
+        .size = [[field font] pointSize], .color = textColor(field),
+        .alignment = static_cast<int>([field textAlignment])
+    });
 }
 
 void drawButton(SvgCanvas& canvas, UIView* view) {
@@ -160,64 +176,88 @@ const std::vector<Drawer>& drawers() {
     return all;
 }
 
-// A line of an alert: what it says and how.
-struct AlertLine {
+// A line of a panel: what it says and how.
+struct PanelLine {
     std::string text;
     SvgText style;
     CGFloat height;
 };
 
-std::vector<AlertLine> linesOf(UIAlertController* alert) {
-    std::vector<AlertLine> lines;
-    if ([alert title])
-        lines.push_back({toStd([alert title]), {.size = 17, .alignment = 1, .bold = true}, 30});
-    for (NSString* line in [[alert message] componentsSeparatedByString:@"\n"])
-        lines.push_back({toStd(line), {.size = 13, .alignment = 1}, 20});
-    for (UITextField* field in [alert textFields]) {
-        const bool isEmpty = [[field text] length] == 0;
-        const std::string typed =
-            [field isSecureTextEntry] ? std::string([[field text] length], '*') : toStd([field text]);
-        lines.push_back({"[ " + (isEmpty ? toStd([field placeholder]) : typed) + " ]",
-                         {.size = 14, .color = isEmpty ? gray : black, .alignment = 1},
-                         30});
+constexpr CGFloat panelWidth = 270;
+constexpr CGFloat panelPadding = 14;
+constexpr CGFloat panelButtonHeight = 44;
+
+PanelLine panelButton(NSString* title, SvgColor color, bool bold) {
+    return {toStd(title), {.size = 17, .color = color, .alignment = 1, .bold = bold}, panelButtonHeight};
+}
+
+std::vector<PanelLine> linesOf(UIAlertController* alert) {
+    std::vector<PanelLine> lines;
+    const auto addText = [&lines](NSString* text, UIFont* font) {
+        if (!text) return;
+        for (NSString* line in linesOfText(text, font, panelWidth - 2 * panelPadding))
+            lines.push_back({toStd(line),
+                             {.size = [font pointSize], .alignment = 1, .bold = [font isBold] != NO},
+                             [font lineHeight]});
+    };
+    addText([alert title], [UIFont boldSystemFontOfSize:17]);
+    addText([alert message], [UIFont systemFontOfSize:13]);
+    for (UITextField* field in [alert textFields])
+        lines.push_back(
+            {"[ " + shownText(field) + " ]", {.size = 14, .color = textColor(field), .alignment = 1}, 30});
+    for (UIAlertAction* action in [alert actions]) {
+        const bool destroys = [action style] == UIAlertActionStyleDestructive;
+        lines.push_back(
+            panelButton([action title], destroys ? red : blue, [action style] == UIAlertActionStyleCancel));
     }
-    for (UIAlertAction* action in [alert actions])
-        lines.push_back({toStd([action title]),
-                         {.size = 17,
-                          .color = [action style] == UIAlertActionStyleDestructive ? red : blue,
-                          .alignment = 1,
-                          .bold = [action style] == UIAlertActionStyleCancel},
-                         44});
     return lines;
 }
 
-// A panel in the middle of the screen, a sheet at its lower edge.
-void drawAlert(SvgCanvas& canvas, UIAlertController* alert, CGSize screen) {
-    constexpr CGFloat width = 270;
-    constexpr CGFloat padding = 14;
-    const std::vector<AlertLine> lines = linesOf(alert);
-    CGFloat height = 2 * padding;
-    for (const AlertLine& line : lines)
+std::vector<PanelLine> linesOf(UIActivityViewController* sheet) {
+    std::vector<PanelLine> lines;
+    for (UIActivity* activity in [sheet offeredActivities])
+        lines.push_back(panelButton([activity activityTitle], blue, false));
+    return lines;
+}
+
+// A panel over the dimmed screen: in the middle of it, or a sheet at its lower edge.
+void drawPanel(SvgCanvas& canvas, CGSize screen, const std::vector<PanelLine>& lines, bool isSheet) {
+    CGFloat height = 2 * panelPadding;
+    for (const PanelLine& line : lines)
         height += line.height;
-    const bool isSheet = [alert preferredStyle] == UIAlertControllerStyleActionSheet;
     const CGFloat top = isSheet ? screen.height - height - 10 : (screen.height - height) / 2;
-    const CGRect panel = CGRectMake((screen.width - width) / 2, top, width, height);
+    const CGRect panel = CGRectMake((screen.width - panelWidth) / 2, top, panelWidth, height);
     canvas.rectangle({CGPointZero, screen}, dimming);
     canvas.rectangle(panel, barColor, 12);
-    CGFloat y = panel.origin.y + padding;
-    for (const AlertLine& line : lines) {
-        const CGRect rect = CGRectMake(panel.origin.x, y, width, line.height);
-        if (line.height > 40) canvas.rectangle(CGRectMake(rect.origin.x, y, width, 0.5), lineColor);
+    CGFloat y = panel.origin.y + panelPadding;
+    for (const PanelLine& line : lines) {
+        const CGRect rect = CGRectMake(panel.origin.x, y, panelWidth, line.height);
+        if (line.height == panelButtonHeight)
+            canvas.rectangle(CGRectMake(rect.origin.x, y, panelWidth, 0.5), lineColor);
         canvas.line(rect, line.text, line.style);
         y += line.height;
     }
 }
 
+// Whether the controller is one that shows a panel instead of a view of its own.
+bool drawsPanel(SvgCanvas& canvas, UIViewController* controller, CGSize screen) {
+    if ([controller isKindOfClass:[UIAlertController class]]) {
+        auto* alert = static_cast<UIAlertController*>(controller);
+        drawPanel(canvas, screen, linesOf(alert),
+                  [alert preferredStyle] == UIAlertControllerStyleActionSheet);
+        return true;
+    }
+    if ([controller isKindOfClass:[UIActivityViewController class]]) {
+        drawPanel(canvas, screen, linesOf(static_cast<UIActivityViewController*>(controller)), true);
+        return true;
+    }
+    return false;
+}
+
 void draw(SvgCanvas& canvas, UIView* view) {
     const ViewState& state = [view viewState];
     if (state.hidden || state.alpha < leastVisibleAlpha) return;
-    if ([state.controller isKindOfClass:[UIAlertController class]])
-        return drawAlert(canvas, static_cast<UIAlertController*>(state.controller), [view bounds].size);
+    if (drawsPanel(canvas, state.controller, [view bounds].size)) return;
 
     const CGRect bounds = state.geometry.bounds();
     const CGPoint origin = state.geometry.toSuperview(CGPointZero);

@@ -77,20 +77,34 @@ std::size_t lineLength(std::u32string_view paragraph, TextStyle style, CGFloat w
     return paragraph.size();
 }
 
-std::vector<CGFloat> lineWidths(std::u32string_view text, TextStyle style, CGFloat width,
-                                LineBreaking breaking) {
-    std::vector<CGFloat> widths;
+// The lines without the spaces at their ends; at least one.
+std::vector<std::u32string_view> linesOf(std::u32string_view text, TextStyle style, CGFloat width,
+                                         LineBreaking breaking) {
+    std::vector<std::u32string_view> lines;
     while (true) {
         const std::size_t end = std::min(text.find(U'\n'), text.size());
         std::u32string_view paragraph = text.substr(0, end);
         do {
             const std::size_t length = lineLength(paragraph, style, width, breaking);
-            widths.push_back(widthOf(withoutTrailingSpaces(paragraph.substr(0, length)), style));
+            lines.push_back(withoutTrailingSpaces(paragraph.substr(0, length)));
             paragraph.remove_prefix(length);
         } while (!paragraph.empty());
-        if (end == text.size()) return widths;
+        if (end == text.size()) return lines;
         text.remove_prefix(end + 1);
     }
+}
+
+std::u16string unitsOf(std::u32string_view glyphs) {
+    std::u16string units;
+    for (const char32_t glyph : glyphs) {
+        if (glyph < 0x10000) {
+            units.push_back(static_cast<char16_t>(glyph));
+            continue;
+        }
+        units.push_back(static_cast<char16_t>(0xD800 + ((glyph - 0x10000) >> 10)));
+        units.push_back(static_cast<char16_t>(0xDC00 + ((glyph - 0x10000) & 0x3FF)));
+    }
+    return units;
 }
 
 } // namespace
@@ -107,15 +121,25 @@ CGFloat glyphWidth(char32_t glyph, TextStyle style) {
 CGSize measureText(std::u16string_view text, TextStyle style, CGSize constraint, LineBreaking breaking,
                    int maximumLines) {
     if (text.empty()) return {0, 0};
-    const std::vector<CGFloat> widths = lineWidths(glyphsOf(text), style, constraint.width, breaking);
+    const std::u32string glyphs = glyphsOf(text);
+    const auto lines = linesOf(glyphs, style, constraint.width, breaking);
     const CGFloat height = lineHeight(style);
-    CGFloat lines = static_cast<CGFloat>(widths.size());
-    if (maximumLines > 0) lines = std::min<CGFloat>(lines, maximumLines);
-    lines = std::clamp<CGFloat>(std::floor(constraint.height / height), 1, lines);
+    CGFloat count = static_cast<CGFloat>(lines.size());
+    if (maximumLines > 0) count = std::min<CGFloat>(count, maximumLines);
+    count = std::clamp<CGFloat>(std::floor(constraint.height / height), 1, count);
 
-    const std::span shown(widths.data(), static_cast<std::size_t>(lines));
-    const CGFloat longest = std::ranges::max(shown);
-    return {std::min(roundedUp(longest), constraint.width), std::min(lines * height, constraint.height)};
+    CGFloat longest = 0;
+    for (const std::u32string_view line : std::span(lines).first(static_cast<std::size_t>(count)))
+        longest = std::max(longest, widthOf(line, style));
+    return {std::min(roundedUp(longest), constraint.width), std::min(count * height, constraint.height)};
+}
+
+std::vector<std::u16string> wrapText(std::u16string_view text, TextStyle style, CGFloat width) {
+    const std::u32string glyphs = glyphsOf(text);
+    std::vector<std::u16string> lines;
+    for (const std::u32string_view line : linesOf(glyphs, style, width, LineBreaking::words))
+        lines.push_back(unitsOf(line));
+    return lines;
 }
 
 } // namespace simulator

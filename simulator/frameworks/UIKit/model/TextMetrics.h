@@ -10,7 +10,9 @@
 
 #include "CoreGraphics/CGGeometry.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace simulator {
 
@@ -29,5 +31,8 @@ CGFloat glyphWidth(char32_t glyph, TextStyle style);
 // takes no room.
 CGSize measureText(std::u16string_view text, TextStyle style, CGSize constraint, LineBreaking breaking,
                    int maximumLines = 0);
+
+// The lines that the text breaks into between words; at least one, which may be empty.
+std::vector<std::u16string> wrapText(std::u16string_view text, TextStyle style, CGFloat width);
 
 } // namespace simulator
