@@ -20,11 +20,6 @@ void openChooser(Stage& stage, HostProcess& camera) {
                 [&] { return PhotosScreen(camera).alertTitle() == "Choose Album"; });
 }
 
-void takePhotos(HostProcess& camera, int count) {
-    for (int taken = 0; taken < count; ++taken)
-        camera.call("takePhoto");
-}
-
 void photosIntoNewAlbum(Stage& stage, HostProcess& camera) {
     PhotosScreen screen(camera);
     openChooser(stage, camera);

@@ -34,7 +34,7 @@ const json* row(const json& list, const char* title) {
 std::string photosShown(const json& list, const char* title) {
     const json* album = row(list, title);
     if (album == nullptr) return "-";
-    if (album->contains("assets")) return std::to_string(album->at("assets").size());
+    if (album->contains("photos")) return std::to_string(album->at("photos").size());
     return album->value("subtitle", "listed");
 }
 

@@ -24,6 +24,14 @@ bool showsPhotos(HostProcess& photos) {
     return photos.call("viewTree").dump().find("PUPhotosAlbumViewController") != std::string::npos;
 }
 
+// The device's clock stands still, so that no banner goes before it has been looked at.
+void letBannersGo(Stage& stage, HostProcess& photos) {
+    stage.check("the banner goes by itself", [&] {
+        photos.call(json{{"do", "advanceClock"}, {"seconds", 1.0}});
+        return PhotosScreen(photos).banners().empty();
+    });
+}
+
 void lockHolidays(Stage& stage, HostProcess& photos) {
     PhotosScreen screen(photos);
     photos.call("albums");
@@ -52,7 +60,8 @@ void beRefused(Stage& stage, HostProcess& photos) {
     screen.type("open");
     screen.answer("OK");
     stage.check("a wrong one is refused: \"Incorrect password\"",
-                [&] { return screen.bannerText() == "Incorrect password" && !showsPhotos(photos); });
+                [&] { return screen.showsBanner("Incorrect password") && !showsPhotos(photos); });
+    letBannersGo(stage, photos);
 }
 
 void openWithTouchId(Stage& stage, HostProcess& photos) {
@@ -72,14 +81,14 @@ void moveOutAndBack(Stage& stage, HostProcess& photos) {
     screen.answer("Move out of camera roll");
     stage.check("its photos 3 4 5 6 have left the Camera Roll and are still in the album",
                 [&] { return stage.cameraRoll() == "1 2 7 8 9 10" && stage.album("Family") == "3 4 5 6"; });
-    stage.check("\"Finished moving\" is told", [&] { return screen.bannerText() == "Finished moving"; });
-    stage.check("the banner goes", [&] { return screen.bannerText().empty(); });
+    stage.check("\"Finished moving\" is told", [&] { return screen.showsBanner("Finished moving"); });
+    letBannersGo(stage, photos);
     stage.tell("and back again");
     screen.tapInAlbumCell("Family", moveButton);
     screen.answer("Copy to camera roll");
     stage.check("all ten photos are in the Camera Roll",
                 [&] { return stage.cameraRoll() == "1 2 3 4 5 6 7 8 9 10"; });
-    stage.check("the banner goes", [&] { return screen.bannerText().empty(); });
+    letBannersGo(stage, photos);
 }
 
 void deleteWithOrphans(Stage& stage, HostProcess& photos) {
@@ -89,7 +98,7 @@ void deleteWithOrphans(Stage& stage, HostProcess& photos) {
     screen.answer("Move out of camera roll");
     stage.check("its photos have left the Camera Roll", [&] { return stage.cameraRoll() == "1 2 7 8 9 10"; });
     photos.call(json{{"do", "deleteAlbum"}, {"title", "Family"}});
-    screen.answer("Delete");
+    screen.answer("Delete Album");
     stage.check("the album is gone", [&] { return stage.album("Family") == "no such album"; });
     edit(photos, false);
     stage.check("with the end of editing its orphans 4 5 6 are back, and 3 stays in \"Holidays\" only",
@@ -99,6 +108,7 @@ void deleteWithOrphans(Stage& stage, HostProcess& photos) {
 } // namespace
 
 void lockAnAlbum(Stage& stage) {
+    stage.device().changeConditions([](Conditions& conditions) { conditions.manualClock = true; });
     stage.application(bundle::springBoard);
     HostProcess& photos = stage.application(bundle::photos);
     lockHolidays(stage, photos);

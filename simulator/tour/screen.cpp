@@ -2,6 +2,8 @@
 
 #include "tour/stage.h"
 
+#include <algorithm>
+
 namespace simulator::tour {
 
 namespace {
@@ -10,25 +12,31 @@ using nlohmann::json;
 
 constexpr int bannerTag = 204;
 
-std::optional<FoundView> find(const json& view, const json& path,
-                              const std::function<bool(const json&)>& matches) {
+std::optional<FoundView> findView(const json& view, const json& path,
+                                  const std::function<bool(const json&)>& matches) {
     if (matches(view)) return FoundView{view, path};
     const json subviews = view.value("subviews", json::array());
     for (std::size_t index = 0; index < subviews.size(); ++index) {
         json step = path;
         step.push_back(index);
-        if (auto found = find(subviews[index], step, matches)) return found;
+        if (auto found = findView(subviews[index], step, matches)) return found;
     }
     return std::nullopt;
 }
 
+void forEach(const json& view, const std::function<void(const json&)>& visit) {
+    visit(view);
+    for (const json& subview : view.value("subviews", json::array()))
+        forEach(subview, visit);
+}
+
 bool showsText(const json& view, const std::string& text) {
-    return find(view, json::array(), [&](const json& each) { return each.value("text", "") == text; })
+    return findView(view, json::array(), [&](const json& each) { return each.value("text", "") == text; })
         .has_value();
 }
 
 std::string firstText(const json& view) {
-    const auto found = find(view, json::array(), [](const json& each) { return each.contains("text"); });
+    const auto found = findView(view, json::array(), [](const json& each) { return each.contains("text"); });
     return found ? found->view.at("text").get<std::string>() : "";
 }
 
@@ -40,7 +48,7 @@ json alertOf(const json& tree) {
 
 std::optional<FoundView> PhotosScreen::albumCell(const std::string& title) {
     const json tree = m_photos.call("viewTree");
-    return find(tree.at("keyWindow"), json::array(), [&](const json& view) {
+    return findView(tree.at("keyWindow"), json::array(), [&](const json& view) {
         return view.at("class") == "PUAlbumListCellContentView" && showsText(view, title);
     });
 }
@@ -48,7 +56,7 @@ std::optional<FoundView> PhotosScreen::albumCell(const std::string& title) {
 std::optional<FoundView> PhotosScreen::inAlbumCell(const std::string& title, int tag) {
     const auto cell = albumCell(title);
     if (!cell) throw TourFailure("the album \"" + title + "\" is not on the screen");
-    return find(cell->view, cell->path, [&](const json& view) { return view.value("tag", 0) == tag; });
+    return findView(cell->view, cell->path, [&](const json& view) { return view.value("tag", 0) == tag; });
 }
 
 void PhotosScreen::tapInAlbumCell(const std::string& title, int tag) {
@@ -68,12 +76,16 @@ std::string PhotosScreen::alertMessage() {
     return alert.is_object() ? alert.value("message", "") : "";
 }
 
-std::string PhotosScreen::bannerText() {
+std::vector<std::string> PhotosScreen::banners() {
+    std::vector<std::string> texts;
     const json tree = m_photos.call("viewTree");
-    const auto banner = find(tree.at("keyWindow"), json::array(),
-                             [](const json& view) { return view.value("tag", 0) == bannerTag; });
-    return banner ? firstText(banner->view) : "";
+    forEach(tree.at("keyWindow"), [&](const json& view) {
+        if (view.value("tag", 0) == bannerTag) texts.push_back(firstText(view));
+    });
+    return texts;
 }
+
+bool PhotosScreen::showsBanner(const std::string& text) { return std::ranges::count(banners(), text) > 0; }
 
 void PhotosScreen::answer(const std::string& action) {
     m_photos.call(json{{"do", "alertAction"}, {"title", action}});

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace simulator::tour {
 
@@ -27,8 +28,9 @@ class PhotosScreen {
     // The alert that waits for an answer: its title, or "" without one.
     std::string alertTitle();
     std::string alertMessage();
-    // The text of the status banner, or "".
-    std::string bannerText();
+    // The texts of the status banners; one may still be fading while the next one shows.
+    std::vector<std::string> banners();
+    bool showsBanner(const std::string& text);
 
     void answer(const std::string& action);
     void type(const std::string& text);

@@ -59,7 +59,7 @@ void Stage::tell(const std::string& text) {
 void Stage::check(const std::string& text, const std::function<bool()>& condition) {
     const auto end = std::chrono::steady_clock::now() + patience;
     while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) throw TourFailure("this did not happen: " + text);
+        if (std::chrono::steady_clock::now() > end) throw TourFailure("this did not happen: " + text + "\n" + library());
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
     std::printf("  + %s\n", text.c_str());
@@ -75,6 +75,13 @@ std::string Stage::numbersOf(const Assets& assets) {
         numbers += std::to_string(place - all.begin() + 1);
     }
     return numbers.empty() ? "nothing" : numbers;
+}
+
+std::string Stage::library() {
+    std::string text = "  Camera Roll: " + cameraRoll();
+    for (const Collection& each : m_photos->collections(CollectionKind::album))
+        if (each.title) text += "\n  " + *each.title + ": " + album(*each.title);
+    return text;
 }
 
 std::string Stage::cameraRoll() { return numbersOf(m_photos->visibleAssets()); }

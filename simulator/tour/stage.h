@@ -35,6 +35,7 @@ class Stage {
     const Device& device() const { return m_device; }
     PhotoLibrary& photos() { return *m_photos; }
     const std::string& libraryFile() const { return m_libraryFile; }
+    bool runsPhoneFile() const { return !m_programs.emulator.empty(); }
 
     // Starts the application, or gives the one that runs; `restart` ends it first.
     HostProcess& application(const std::string& bundleIdentifier);
@@ -54,6 +55,7 @@ class Stage {
     std::string album(const std::string& title);
 
   private:
+    std::string library(); // what is where, for a failure's message
     std::string numbersOf(const Assets& assets);
 
     Programs m_programs;

@@ -12,21 +12,22 @@ constexpr const char* reloadNotification = "com.nrv.rollkeeperprefs/reloadPrefs"
 struct Hooks {
     std::size_t installed = 0;
     std::size_t absent = 0;  // a class or method that this release or application lacks
-    bool areFromFile = true; // every function lies in the library's file
+    bool areFromFile = true; // every function lies in the phone's file, where that is what runs
 };
 
-Hooks hooksOf(HostProcess& application, const std::string& libraryFile) {
+Hooks hooksOf(Stage& stage, const char* bundleIdentifier) {
     Hooks hooks;
-    const json answer = application.call("hooks");
+    const json answer = stage.application(bundleIdentifier).call("hooks");
     for (const json& hook : answer.at("hooks")) {
         (hook.at("installed").get<bool>() ? hooks.installed : hooks.absent) += 1;
-        hooks.areFromFile = hooks.areFromFile && hook.at("image") == libraryFile;
+        if (stage.runsPhoneFile())
+            hooks.areFromFile = hooks.areFromFile && hook.at("image") == stage.libraryFile();
     }
     return hooks;
 }
 
 void loadInto(Stage& stage, const char* bundleIdentifier) {
-    const Hooks hooks = hooksOf(stage.application(bundleIdentifier), stage.libraryFile());
+    const Hooks hooks = hooksOf(stage, bundleIdentifier);
     stage.check(std::string(bundleIdentifier) + ": " + std::to_string(hooks.installed) + " methods hooked, " +
                     std::to_string(hooks.absent) + " not there on this release",
                 [&] { return hooks.installed > 0 && hooks.areFromFile; });
