@@ -33,6 +33,11 @@ void load(const std::filesystem::path& library) {
     if (const auto* error = std::get_if<LoadError>(&result)) throw std::runtime_error(error->message);
 }
 
+// Before the working directory changes.
+std::filesystem::path absoluteOrNone(const std::optional<std::filesystem::path>& path) {
+    return path ? std::filesystem::absolute(*path) : std::filesystem::path();
+}
+
 // Runs the main run loop once, for at most `seconds`.
 void runOnce(double seconds) {
     @autoreleasepool {
@@ -54,12 +59,13 @@ Host::Host(const HostOptions& options) {
         mountDevice(Device::open(options.device).folder());
         setHostBundleIdentifier(options.bundleIdentifier);
         applyConditions();
+        const std::filesystem::path library = absoluteOrNone(options.library);
         const Application application = applicationFor(options.bundleIdentifier);
         if (!application.frameworks.empty()) setLoadedFrameworks(application.frameworks);
         if (application.worksInRootFolder) std::filesystem::current_path(mountedDevice() / "root");
         keepMainRunLoopAlive();
         if (options.beforeLoading) options.beforeLoading();
-        if (options.library) load(*options.library);
+        if (options.library) load(library);
         if (application.start) runAsEvent(application.start);
     }
 }

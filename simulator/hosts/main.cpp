@@ -27,8 +27,9 @@ std::map<std::string, std::string, std::less<>> parse(int count, char** argument
 }
 
 void run(const std::map<std::string, std::string, std::less<>>& options) {
-    simulator::HostOptions wanted{
-        .bundleIdentifier = options.at("--bundle"), .device = options.at("--device"), .library = {}};
+    simulator::HostOptions wanted{.bundleIdentifier = options.at("--bundle"),
+                                  .device = std::filesystem::absolute(options.at("--device")),
+                                  .library = {}};
     if (const auto library = options.find("--library"); library != options.end())
         wanted.library = library->second;
 

@@ -172,6 +172,27 @@ TEST_F(Processes, a_host_says_what_it_is_and_ends_when_told) {
     EXPECT_FALSE(std::filesystem::exists(device().runFolder() / "com.example.nothing.sock"));
 }
 
+// The shell's working directory is the device's root.
+TEST_F(Processes, a_host_takes_relative_paths) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(device().folder().parent_path());
+    HostProcessOptions options = hostProcess(shell);
+    options.device = device().folder().filename();
+    {
+        HostProcess host(options);
+        host.call("ready");
+        host.stop();
+    }
+    std::filesystem::current_path(before);
+}
+
+TEST_F(Processes, the_clock_of_a_host_is_moved_from_outside) {
+    device().changeConditions([](Conditions& conditions) { conditions.manualClock = true; });
+    HostProcess host(hostProcess(sandboxed));
+    host.call({{"do", "advanceClock"}, {"seconds", 0.5}});
+    EXPECT_EQ(host.call({{"do", "advanceClock"}, {"seconds", 1.0}}), json({{"now", 1.5}}));
+}
+
 TEST_F(Processes, failures_are_told_in_words) {
     HostProcess host(hostProcess(sandboxed));
     EXPECT_THAT(exceptionOf([&] { host.call("dance"); }), HasSubstr("com.example.nothing: unknown verb"));
