@@ -50,9 +50,13 @@ std::string sectionNamed(const std::string& name, const std::string& file) {
     return {};
 }
 
-// What the library says it sends. The linker may leave zeros between the lines.
-std::set<std::string> ledger() {
-    std::string text = sectionNamed("rollkeeper_messages", contentOf(libraryFile()));
+// The library and the settings pane.
+const std::string binaries[] = {
+    libraryFile(), deviceFiles() + "/Library/PreferenceBundles/RollkeeperPreferences.bundle/RollkeeperPreferences"};
+
+// What a binary says it sends. The linker may leave zeros between the lines.
+std::set<std::string> ledgerOf(const std::string& binary) {
+    std::string text = sectionNamed("rollkeeper_messages", contentOf(binary));
     std::erase(text, '\0');
     std::istringstream stream(text);
     std::set<std::string> lines;
@@ -91,8 +95,18 @@ std::optional<std::string> lookUp(const Encodings& encodings, const std::string&
     return found == encodings.end() ? std::nullopt : std::optional(found->second);
 }
 
-// The phone's library carries no ledger: it is the same source.
-TEST(MessageLedger, is_in_the_desk_library_alone) { EXPECT_EQ(ledger().empty(), configuration() == "arm64"); }
+// The phone's binaries carry no ledger: they have the same source.
+TEST(MessageLedger, is_in_the_desk_library_alone) {
+    for (const std::string& binary : binaries)
+        EXPECT_EQ(ledgerOf(binary).empty(), configuration() == "arm64") << binary;
+}
+
+std::set<std::string> ledger() {
+    std::set<std::string> lines;
+    for (const std::string& binary : binaries)
+        lines.merge(ledgerOf(binary));
+    return lines;
+}
 
 TEST(MessageLedger, has_the_types_of_the_device_in_every_line) {
     const Encodings known = encodingsOfTheDevice();
