@@ -27,9 +27,11 @@ NSError* errorWithReason(const std::string& reason) {
 
 /// nil when the change was made.
 NSError* commit(const simulator::Change& change) {
-    if (simulator::currentConditions()->faults.refuseLibraryChanges)
-        return errorWithReason("the photo library refuses changes");
-    const auto failure = simulator::failureOf([&] { simulator::sharedPhotoLibrary().apply(change); });
+    const auto failure = simulator::failureOf([&] {
+        if (simulator::currentConditions()->faults.refuseLibraryChanges)
+            throw std::runtime_error("the photo library refuses changes");
+        simulator::sharedPhotoLibrary().apply(change);
+    });
     return failure ? errorWithReason(*failure) : nil;
 }
 

@@ -33,7 +33,6 @@
 
 @interface PHFetchResult (Making)
 + (PHFetchResult*)resultWithAssets:(simulator::Assets)assets options:(PHFetchOptions*)options;
-/// `keys` are the sort keys that the fetched class supports.
 + (PHFetchResult*)resultWithCollections:(const simulator::Collections&)collections
                                 options:(PHFetchOptions*)options;
 @end

@@ -104,6 +104,24 @@ TEST_F(ChangeTest, HandlerMayBeMissingAndMayChangeAgain) {
     delete journal;
 }
 
+TEST_F(ChangeTest, ChangeKeepsWhatItsBlockCaptures) {
+    auto* journal = new Journal;
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    NSString* title = [NSMutableString stringWithString:@"Captured"];
+    NSArray* assets = [NSArray arrayWithObject:asset(4)];
+    [[PHPhotoLibrary sharedPhotoLibrary]
+        performChanges:^{
+            [[Creation creationRequestForAssetCollectionWithTitle:title] addAssets:assets];
+        }
+        completionHandler:^(BOOL, NSError*) {
+            journal->note([title UTF8String]);
+        }];
+    [pool drain];
+    EXPECT_THAT(journal->waitForEntries(1), ElementsAre("Captured"));
+    EXPECT_EQ(albumNumbers("Captured"), Numbers{4});
+    delete journal;
+}
+
 TEST_F(ChangeTest, PlaceholderNamesTheNewAlbum) {
     __block NSString* identifier = nil;
     ASSERT_TRUE(changeLibrary(^{
