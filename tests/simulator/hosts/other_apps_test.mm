@@ -7,13 +7,18 @@
 #include "hosts/applications/pickers.h"
 #include "hosts/applications/plain/plain_app.h"
 #include "hosts/applications/settings/settings_app.h"
+#include "hosts/client.h"
 #include "simulator/hosts/hosts_test.h"
+#include "support/environment.h"
 
 #include <gmock/gmock.h>
 #include <objc/runtime.h>
 
 #include <algorithm>
 #include <atomic>
+#include <iterator>
+#include <sstream>
+#include <thread>
 
 // Stands in front of the capture callback to see where it arrives.
 @interface WatchedCaptureEngine : CAMCaptureEngine {
@@ -174,6 +179,26 @@ TEST_F(HostsTest, plain_application_saves_its_picture_from_the_share_sheet) {
     start("com.example.plain");
     plain::saveImage();
     EXPECT_EQ(library().visibleAssets().size(), 11U);
+}
+
+TEST_F(HostsTest, an_application_in_a_process_of_its_own_does_what_it_is_told) {
+    std::istringstream words(emulator());
+    const std::vector<std::string> command{std::istream_iterator<std::string>(words), {}};
+    HostProcess photos({.program = hostProgram(),
+                        .bundleIdentifier = "com.apple.mobileslideshow",
+                        .device = device().folder(),
+                        .library = std::nullopt,
+                        .emulator = command});
+    EXPECT_FALSE(rowTitled(photos.call("albums"), "Holidays").is_null());
+    photos.call({{"do", "openAlbum"}, {"title", "Holidays"}});
+    photos.call({{"do", "selectPhotos"}, {"places", {0}}});
+    photos.call("removeSelection");
+    photos.call({{"do", "alertAction"}, {"title", "Remove from Album"}});
+    for (int attempt = 0; attempt < 500 && numbersIn("Holidays").size() == 3; ++attempt)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    photos.call("ready");
+    EXPECT_EQ(numbersIn("Holidays").size(), 2U);
+    photos.stop();
 }
 
 TEST_F(HostsTest, verbs_do_what_a_user_does) {
