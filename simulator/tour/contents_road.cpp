@@ -73,6 +73,7 @@ void removeAndRestore(Stage& stage, HostProcess& photos) {
     openAlbum(photos, "Recently Deleted");
     select(photos, {0});
     photos.call("removeSelection");
+    screen.answer("Recover Photo");
     stage.check("it shows in the Camera Roll again",
                 [&] { return stage.cameraRoll() == "3 4 5 6 7 8 9 10"; });
 }

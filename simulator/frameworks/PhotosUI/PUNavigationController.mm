@@ -12,6 +12,7 @@
 - (void)_topViewControllerDidChange {
     UIViewController* top = [self topViewController];
     [self _setCurrentToolbarViewController:top];
+    [[self navigationBar] setNeedsLayout]; // its buttons are the new screen's
     if (top != nil) [[[self tabBarController] tabBar] setHidden:[top pu_wantsTabBarVisible] ? NO : YES];
 }
 
