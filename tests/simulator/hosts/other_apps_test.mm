@@ -196,7 +196,6 @@ TEST_F(HostsTest, an_application_in_a_process_of_its_own_does_what_it_is_told) {
     photos.call({{"do", "alertAction"}, {"title", "Remove from Album"}});
     for (int attempt = 0; attempt < 500 && numbersIn("Holidays").size() == 3; ++attempt)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    photos.call("ready");
     EXPECT_EQ(numbersIn("Holidays").size(), 2U);
     photos.stop();
 }
