@@ -40,8 +40,8 @@ std::string describe(const TableRow& row) {
 
 std::string describe(const Installation& installation) {
     const bool isReplaced = installation.kind == Installation::Kind::replaced;
-    return std::string(isReplaced ? "replace " : "add ") + installation.className + " " + installation.methodKind +
-           installation.selector;
+    return std::string(isReplaced ? "replace " : "add ") + installation.className + " " +
+           installation.methodKind + installation.selector;
 }
 
 // The library's own class is no method of a host.
@@ -54,54 +54,41 @@ std::vector<Installation> hostInstallations(const Host& running) {
 
 class HookTable : public LibraryTest, public testing::WithParamInterface<HostCase> {};
 
-TEST_P(HookTable, IsInstalledInOrderWithOwnSlots) {
+TEST_P(HookTable, is_installed_in_order_with_own_slots) {
     change([](Conditions& conditions) {
         conditions.release = GetParam().release;
         conditions.coreFoundationVersion = GetParam().coreFoundationVersion;
     });
     const auto installed = hostInstallations(start(GetParam().bundleIdentifier));
+    const auto rows = expectedRows(GetParam());
+    ASSERT_EQ(installed.size(), rows.size());
 
-    std::vector<std::string> expected;
-    for (const TableRow& row : expectedRows(GetParam())) expected.push_back(describe(row));
-    // A class that the host lacks is given as nil, which leaves no name: such rows are told by their selector.
-    std::vector<std::string> found;
     std::set<const void*> slots;
-    std::size_t replaced = 0;
-    for (std::size_t index = 0; index < installed.size(); ++index) {
-        Installation named = installed[index];
-        if (named.className.empty() && index < expected.size())
-            named.className = expectedRows(GetParam())[index].at("class");
-        if (named.methodKind != '+' && index < expected.size() && installed[index].className.empty())
-            named.methodKind = expectedRows(GetParam())[index].at("kind")[0];
-        found.push_back(describe(named));
-        if (named.kind != Installation::Kind::replaced) continue;
-        ++replaced;
-        slots.insert(named.slot);
-    }
-    EXPECT_THAT(found, testing::ElementsAreArray(expected));
-    EXPECT_EQ(slots.size(), replaced) << "two replacements share a slot";
-}
-
-TEST_P(HookTable, AddsMethodsWithTheirEncodings) {
-    change([](Conditions& conditions) { conditions.release = Release::complete; });
-    const auto installed = hostInstallations(start(GetParam().bundleIdentifier));
-    for (const TableRow& row : expectedRows(GetParam())) {
-        if (row.at("action") != "add") continue;
-        const auto same = [&](const Installation& each) {
-            return each.className == row.at("class") && each.selector == row.at("selector");
-        };
-        const auto added = std::ranges::find_if(installed, same);
-        if (added == installed.end()) continue; // a class that this host lacks
-        EXPECT_EQ(added->encoding, row.at("encoding")) << describe(row);
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        // A class that the host lacks is given as nil, which leaves neither a name nor a kind.
+        Installation each = installed[index];
+        if (each.className.empty()) {
+            each.className = rows[index].at("class");
+            each.methodKind = rows[index].at("kind")[0];
+        }
+        EXPECT_EQ(describe(each), describe(rows[index]));
+        if (each.kind == Installation::Kind::replaced)
+            EXPECT_TRUE(slots.insert(each.slot).second) << describe(each) << " shares its slot";
+        else
+            EXPECT_EQ(each.encoding, rows[index].at("encoding")) << describe(each);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, HookTable,
                          testing::Values(HostCase{host::camera, "camera"}, HostCase{host::photos, "photos"},
-                                         HostCase{host::messenger, "messenger"}, HostCase{host::whatsApp, "whatsapp"},
-                                         HostCase{host::imgur, "imgur"}, HostCase{host::springBoard, "springboard"},
+                                         HostCase{host::messenger, "messenger"},
+                                         HostCase{host::whatsApp, "whatsapp"}, HostCase{host::imgur, "imgur"},
+                                         HostCase{host::springBoard, "springboard"},
                                          HostCase{host::settings, nullptr}, HostCase{host::plain, nullptr},
                                          HostCase{host::jolly, nullptr},
+                                         // Bundle identifiers are compared exactly.
+                                         HostCase{"com.apple.Camera", nullptr},
+                                         HostCase{"com.apple.mobileslideshow2", nullptr},
                                          HostCase{host::whatsApp, "whatsapp", Release::complete, 1299.9},
                                          HostCase{host::plain, nullptr, Release::complete, 1300.0}));
 
