@@ -105,6 +105,7 @@ namespace camera {
 void layoutBottomBar(CAMBottomBar self, SEL command) {
     original<layoutBottomBar>(self, command);
     if (!settings::enabled || !settings::enableCameraPicker) return;
+    if (!self.respondsTo<"backgroundView">()) return; // iOS 7: nothing to put the button into
 
     const bool besideCustomButton = hasCustomDrawButton(self);
     if (!self.viewWithTag(tag::cameraAlbumImage)) {
