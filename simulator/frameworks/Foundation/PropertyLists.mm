@@ -82,9 +82,40 @@ BOOL writeToFile(id self, SEL, NSString* path, BOOL atomically) {
     return [propertyListAsXml(self) writeToFile:path atomically:atomically];
 }
 
-__attribute__((constructor)) void writeAsTheDeviceDoes() {
+// GNUstep reads property lists of the binary form only when told to.
+
+using InitWithFile = id (*)(id, SEL, NSString*);
+InitWithFile initArrayFromText;
+InitWithFile initDictionaryFromText;
+
+// nil for a file that is not of the binary form, or damaged.
+id binaryPropertyListIn(NSString* path) {
+    NSData* bytes = [NSData dataWithContentsOfFile:path];
+    if ([bytes length] < 8 || std::memcmp([bytes bytes], "bplist00", 8) != 0) return nil;
+    @try {
+        return [NSPropertyListSerialization propertyListWithData:bytes options:0 format:nullptr error:nullptr];
+    } @catch (NSException*) {
+        return nil; // GNUstep raises where the device answers with an error
+    }
+}
+
+id initArray(id self, SEL command, NSString* path) {
+    id value = binaryPropertyListIn(path);
+    if ([value isKindOfClass:[NSArray class]]) return [self initWithArray:value];
+    return initArrayFromText(self, command, path);
+}
+
+id initDictionary(id self, SEL command, NSString* path) {
+    id value = binaryPropertyListIn(path);
+    if ([value isKindOfClass:[NSDictionary class]]) return [self initWithDictionary:value];
+    return initDictionaryFromText(self, command, path);
+}
+
+__attribute__((constructor)) void useFilesAsTheDeviceDoes() {
     replaceMethod("NSArray", '-', "writeToFile:atomically:", writeToFile);
     replaceMethod("NSDictionary", '-', "writeToFile:atomically:", writeToFile);
+    initArrayFromText = replaceMethod("NSArray", '-', "initWithContentsOfFile:", initArray);
+    initDictionaryFromText = replaceMethod("NSDictionary", '-', "initWithContentsOfFile:", initDictionary);
 }
 
 } // namespace
