@@ -18,7 +18,8 @@ typedef struct UIEdgeInsets {
 }
 
 @property (nonatomic) CGSize contentSize;
-// The origin of the bounds.
+// The origin of the bounds. Comes back to the end of the content when view or content become too short for
+// it.
 @property (nonatomic) CGPoint contentOffset;
 @property (nonatomic) UIEdgeInsets contentInset;
 // Not retained.

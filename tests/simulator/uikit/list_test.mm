@@ -155,6 +155,21 @@ TEST_F(Lists, a_tap_on_an_item_selects_one_or_several) {
     EXPECT_EQ(source->selected, -1);
 }
 
+TEST_F(Lists, scroll_back_when_the_content_becomes_too_short) {
+    UICollectionView* collection = addCollection();
+    [collection setContentOffset:CGPointMake(0, 30000)];
+    [collection layoutIfNeeded];
+    source->count = 30;
+    [collection reloadData];
+    [collection layoutIfNeeded];
+    EXPECT_EQ([collection contentOffset], CGPointMake(0, 10 * 100 - 10 - 290));
+    EXPECT_EQ([[collection visibleCells] count], 9U);
+    [collection setFrame:CGRectMake(0, 0, 300, 2000)];
+    [collection layoutIfNeeded];
+    EXPECT_EQ([collection contentOffset], CGPointZero);
+    EXPECT_EQ([[collection visibleCells] count], 30U);
+}
+
 TEST_F(Lists, an_unregistered_cell_raises) {
     UICollectionView* collection = addCollection();
     EXPECT_EQ(exceptionOf([&] {
