@@ -335,8 +335,9 @@ TEST_F(AlbumCell, move_sheet_points_at_the_cell_on_a_pad) {
     openInEditMode();
     tapButton("Holidays", tag::moveButton);
     UIPopoverPresentationController* popover = [frontAlert() popoverPresentationController];
-    EXPECT_TRUE([popover sourceView] == contentView("Holidays"));
-    EXPECT_EQ([popover sourceRect], [contentView("Holidays") bounds]);
+    ASSERT_TRUE([[popover sourceView] isKindOfClass:[PUAlbumListCellContentView class]]);
+    EXPECT_EQ(text([static_cast<PUAlbumListCellContentView*>([popover sourceView]) title]), "Holidays");
+    EXPECT_EQ([popover sourceRect], [[popover sourceView] bounds]);
 }
 
 struct MoveCase {

@@ -138,6 +138,7 @@ struct OverlayCase {
 
 class LockOverlay : public AlbumListPresentation, public testing::WithParamInterface<double> {};
 
+// Thumbnails of 175 points and more take their side from the corners drawn over them, and a point more.
 constexpr OverlayCase overlayCases[] = {
     {320, 0, "UIImageView 0 0 136 136 {UIVisualEffectView 0 0 136 136; UIImageView 43 43 50 50}"},
     {320, 1, "UIImageView 0 0 136 136"},
@@ -151,9 +152,9 @@ constexpr OverlayCase overlayCases[] = {
     {390, 1, "UIImageView 0 0 171 171"},
     {390, 2, "UIImageView 0 0 171 171 {UIImageView 60 60 50 50}"},
     {390, 4, "none"},
-    {414, 0, "UIImageView 0 0 180 180 {UIVisualEffectView 0 0 180 180; UIImageView 65 65 50 50}"},
-    {414, 1, "UIImageView 0 0 180 180"},
-    {414, 2, "UIImageView 0 0 180 180 {UIImageView 65 65 50 50}"},
+    {414, 0, "UIImageView 0 0 181 181 {UIVisualEffectView 0 0 181 181; UIImageView 65 65 50 50}"},
+    {414, 1, "UIImageView 0 0 181 181"},
+    {414, 2, "UIImageView 0 0 181 181 {UIImageView 65 65 50 50}"},
     {414, 3, "none"},
 };
 
