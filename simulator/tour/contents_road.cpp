@@ -59,6 +59,7 @@ void removeAndRestore(Stage& stage, HostProcess& photos) {
                 [&] { return screen.alertTitle() == "Move Album Photos"; });
     screen.answer("Move out of camera roll");
     stage.check("photo 7 has left the Camera Roll", [&] { return stage.cameraRoll() == "3 4 5 6 8 9 10"; });
+    stage.check("the banner goes by itself", [&] { return screen.banners().empty(); });
     openAlbum(photos, "Work");
     select(photos, {0});
     photos.call("removeSelection");

@@ -59,7 +59,8 @@ void Stage::tell(const std::string& text) {
 void Stage::check(const std::string& text, const std::function<bool()>& condition) {
     const auto end = std::chrono::steady_clock::now() + patience;
     while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) throw TourFailure("this did not happen: " + text + "\n" + library());
+        if (std::chrono::steady_clock::now() > end)
+            throw TourFailure("this did not happen: " + text + "\n" + library());
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
     std::printf("  + %s\n", text.c_str());
