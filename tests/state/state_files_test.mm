@@ -60,7 +60,8 @@ TEST_F(StateFiles, an_album_locked_in_photos_is_locked_for_others) {
     change([](Conditions& conditions) { conditions.release = Release::ios11_4; });
     HostProcess plain = startProcess(host::plain);
     const auto lists = [&](const char* title) {
-        for (const json& each : plain.call("listPicker"))
+        const json listed = plain.call("listPicker");
+        for (const json& each : listed)
             if (each.at("title") == title) return true;
         return false;
     };
@@ -133,11 +134,11 @@ TEST_F(StateFiles, readers_see_whole_lists_while_two_senders_write) {
     startSpringBoard();
     lockAlbums(Titles(length, "before"));
     std::vector<std::thread> senders;
-    for (const char* text : {"one", "other"})
-        senders.emplace_back([this, text] {
-            HostProcess sender = startProcess(host::plain);
+    for (const char* application : {host::plain, host::settings})
+        senders.emplace_back([this, application] {
+            HostProcess sender = startProcess(application);
             for (int turn = 0; turn < 20; ++turn)
-                sender.call(saveRequest(json(Titles(length, text)), file::lockedAlbums));
+                sender.call(saveRequest(json(Titles(length, application)), file::lockedAlbums));
         });
     std::set<std::string> seen;
     const auto readWhole = [&] {
@@ -154,7 +155,7 @@ TEST_F(StateFiles, readers_see_whole_lists_while_two_senders_write) {
         sender.join();
     EXPECT_TRUE(eventually([&] {
         readWhole();
-        return seen.contains("one") && seen.contains("other");
+        return seen.contains(host::plain) && seen.contains(host::settings);
     }));
 }
 
