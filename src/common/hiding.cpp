@@ -2,21 +2,15 @@
 
 namespace rollkeeper {
 
-namespace {
-
-Owner<PUAssetHidingHelper> makeHelper() {
-    Owner<PUAssetHidingHelper> helper = make<PUAssetHidingHelper>();
-    // iOS 8 has a class of this name that does something else.
-    if (!helper->respondsTo<"applyHiddenState:completionHandler:">()) return Owner<PUAssetHidingHelper>();
-    return helper;
+// iOS 8 has a class of this name that does something else.
+bool canHideAssets() {
+    const Class helper = classNamed<PUAssetHidingHelper::className>();
+    return helper && class_getInstanceMethod(helper, selector<"applyHiddenState:completionHandler:">());
 }
 
-} // namespace
-
-bool canHideAssets() { return static_cast<bool>(makeHelper()); }
-
 void apply(Photos state, NSArray assets, Block completion) {
-    const Owner<PUAssetHidingHelper> helper = makeHelper();
+    if (!canHideAssets()) return;
+    const Owner<PUAssetHidingHelper> helper = make<PUAssetHidingHelper>();
     if (assets) helper->setAssets(assets);
     helper->applyHiddenState(state == Photos::hidden, completion);
 }

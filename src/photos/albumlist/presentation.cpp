@@ -38,11 +38,10 @@ void addLongPress(UIView view, NSObject target, SEL action, NSTimeInterval durat
     view.addGestureRecognizer(recognizer.get());
 }
 
+// The list is written empty where there is none; a file that is there and cannot be read is left alone.
 void readLockedAlbums() {
-    if (lockedAlbums::reread()) return;
-    Owner<NSMutableArray> empty = lockedAlbums::rereadOrEmpty();
-    // A file that is there and cannot be read is left alone.
-    if (!NSFileManager::defaultManager().fileExistsAtPath(path::lockedAlbums())) lockedAlbums::save(empty);
+    const Owner<NSMutableArray> titles = lockedAlbums::rereadOrEmpty();
+    if (!NSFileManager::defaultManager().fileExistsAtPath(path::lockedAlbums())) lockedAlbums::save(titles);
 }
 
 void readLockedAlbumPaths() {
