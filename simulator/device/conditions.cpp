@@ -153,7 +153,9 @@ std::shared_ptr<const Conditions> currentConditions() {
                       facts.st_mtim.tv_nsec == cached.modified.tv_nsec;
     if (same) return cached.conditions;
     std::ifstream stream(file);
-    cached.conditions = std::make_shared<const Conditions>(conditionsFromJson(json::parse(stream)));
+    const json content = json::parse(stream, nullptr, false);
+    if (content.is_discarded()) throw std::invalid_argument(file + " is no JSON");
+    cached.conditions = std::make_shared<const Conditions>(conditionsFromJson(content));
     cached.file = file;
     cached.inode = facts.st_ino;
     cached.modified = facts.st_mtim;
