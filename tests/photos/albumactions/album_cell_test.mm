@@ -214,8 +214,10 @@ TEST_P(CellUnlocking, asks_as_the_setting_and_the_owner_say) {
         perform();
         const bool asksAtOnce = each.passOption != 0 || each.outcome == BiometricOutcome::notAvailable;
         if (asksAtOnce) EXPECT_EQ(isAskedForPassword(), each.expected == Asked::forPassword);
-        if (each.expected == Asked::nothing) settle();
-        else host().runUntil([&] { return result() == each.expected; });
+        if (each.expected == Asked::nothing)
+            settle();
+        else
+            host().runUntil([&] { return result() == each.expected; });
         EXPECT_EQ(result(), each.expected);
         if (!asksAtOnce) ++evaluations;
         EXPECT_EQ(authenticationReasons(), Titles(evaluations, "Holidays needs to be unlocked."));
@@ -313,16 +315,15 @@ TEST_F(AlbumCell, grant_of_an_unknown_purpose_opens_one_album) {
 TEST_F(AlbumCell, move_sheet_offers_both_directions) {
     openInEditMode();
     tapButton("Holidays", tag::moveButton);
-    const json expected = {
-        {"title", "Move Album"},
-        {"message", "Copy album photos back to the camera roll or move them out?"},
-        {"style", "actionSheet"},
-        {"actions",
-         {{{"title", "Copy to camera roll"}, {"style", "default"}, {"enabled", true}},
-          {{"title", "Move out of camera roll"}, {"style", "default"}, {"enabled", true}},
-          {{"title", "Cancel"}, {"style", "cancel"}, {"enabled", true}}}},
-        {"textFields", json::array()},
-        {"anchor", nullptr}};
+    const json expected = {{"title", "Move Album"},
+                           {"message", "Copy album photos back to the camera roll or move them out?"},
+                           {"style", "actionSheet"},
+                           {"actions",
+                            {{{"title", "Copy to camera roll"}, {"style", "default"}, {"enabled", true}},
+                             {{"title", "Move out of camera roll"}, {"style", "default"}, {"enabled", true}},
+                             {{"title", "Cancel"}, {"style", "cancel"}, {"enabled", true}}}},
+                           {"textFields", json::array()},
+                           {"anchor", nullptr}};
     EXPECT_EQ(viewTreeAsJson().at("alert"), expected);
     tapAlertAction("Cancel");
     settle();
@@ -417,10 +418,11 @@ TEST_F(AlbumMove, spins_while_it_runs) {
     openInEditMode();
     std::promise<void> otherWork;
     const std::shared_future<void> otherWorkIsDone = otherWork.get_future().share();
-    [[PHPhotoLibrary sharedPhotoLibrary] performChanges:^{
-        otherWorkIsDone.wait();
-    }
-                                      completionHandler:nil];
+    [[PHPhotoLibrary sharedPhotoLibrary]
+           performChanges:^{
+               otherWorkIsDone.wait();
+           }
+        completionHandler:nil];
     tapButton("Holidays", tag::moveButton);
     tapAlertAction(moveOut);
     waitFor([&] { return spinner() != nil; });

@@ -45,8 +45,9 @@ json answerOf(PUAlbumListViewController* list, Answer answer) {
     return nullptr;
 }
 
-constexpr Answer allAnswers[] = {Answer::people,   Answer::places,      Answer::title,       Answer::subtitle,
-                                 Answer::noSearch, Answer::hidesTabBar, Answer::wantsTabBar, Answer::firstEditable};
+constexpr Answer allAnswers[] = {Answer::people,      Answer::places,       Answer::title,
+                                 Answer::subtitle,    Answer::noSearch,     Answer::hidesTabBar,
+                                 Answer::wantsTabBar, Answer::firstEditable};
 
 std::map<Answer, json> answersOf(PUAlbumListViewController* list) {
     std::map<Answer, json> answers;
@@ -162,6 +163,8 @@ class AlbumDeletion : public PhotosTest {
 TEST_F(AlbumDeletion, returns_photos_of_no_other_album_when_editing_ends) {
     startEditing();
     deleteAlbum("Holidays");
+    [photos::albumList() setEditing:YES animated:NO];
+    settle();
     EXPECT_TRUE(isHidden(0)) << "returned before editing ended";
     EXPECT_THAT(hiddenAfterEditing(), ElementsAre(2, 6));
 }

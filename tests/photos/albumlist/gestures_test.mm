@@ -58,11 +58,11 @@ std::ostream& operator<<(std::ostream& out, const PressCase& each) {
 
 TEST_F(AlbumListGestures, press_toggles_the_lock_once_it_is_allowed) {
     constexpr PressCase cases[] = {
-        {false, false, 0, Asked::carriedOn}, {false, false, 1, Asked::carriedOn},
-        {false, false, 2, Asked::carriedOn}, {false, true, 0, Asked::carriedOn},
+        {false, false, 0, Asked::carriedOn},  {false, false, 1, Asked::carriedOn},
+        {false, false, 2, Asked::carriedOn},  {false, true, 0, Asked::carriedOn},
         {false, true, 1, Asked::forPassword}, {false, true, 2, Asked::carriedOn},
-        {true, false, 0, Asked::nothing},    {true, false, 2, Asked::nothing},
-        {true, true, 0, Asked::nothing},     {true, true, 1, Asked::nothing},
+        {true, false, 0, Asked::nothing},     {true, false, 2, Asked::nothing},
+        {true, true, 0, Asked::nothing},      {true, true, 1, Asked::nothing},
         {true, true, 2, Asked::nothing},
     };
     openList({}, {"Family"});
@@ -90,7 +90,8 @@ TEST_F(AlbumListGestures, press_toggles_the_lock_once_it_is_allowed) {
 }
 
 TEST_F(AlbumListGestures, failed_unlock_changes_nothing_and_is_asked_again) {
-    change([](Conditions& conditions) { conditions.biometricOutcome = BiometricOutcome::refusedWithoutError; });
+    change(
+        [](Conditions& conditions) { conditions.biometricOutcome = BiometricOutcome::refusedWithoutError; });
     openList({}, {"Holidays"});
     for (int round = 0; round < 2; ++round) {
         press("Holidays", UIGestureRecognizerStateBegan);
@@ -99,7 +100,8 @@ TEST_F(AlbumListGestures, failed_unlock_changes_nothing_and_is_asked_again) {
     change([](Conditions& conditions) { conditions.biometricOutcome = BiometricOutcome::success; });
     press("Holidays", UIGestureRecognizerStateBegan);
     EXPECT_THAT(takeSavedLists(), ElementsAre(nlohmann::json::array()));
-    change([](Conditions& conditions) { conditions.biometricOutcome = BiometricOutcome::refusedWithoutError; });
+    change(
+        [](Conditions& conditions) { conditions.biometricOutcome = BiometricOutcome::refusedWithoutError; });
     press("Holidays", UIGestureRecognizerStateBegan);
     EXPECT_TRUE(takeSavedLists().empty()) << "one authorisation served twice";
 }

@@ -215,7 +215,8 @@ TEST_F(AlbumListPresentation, thumbnail_side_comes_from_the_screen_unless_the_st
         [view registerClass:[CellOfWidth class] forCellWithReuseIdentifier:@"album"];
         stackWidth = each.stackWidth;
         [list viewWillAppear:NO];
-        auto configured = static_cast<PUAlbumListCell*>([list collectionView:view cellForItemAtIndexPath:path]);
+        auto configured = static_cast<PUAlbumListCell*>([list collectionView:view
+                                                      cellForItemAtIndexPath:path]);
         ASSERT_TRUE([configured isKindOfClass:[CellOfWidth class]]);
         UIView* shown = [[configured albumListCellContentView] viewWithTag:tag::lockOverlay];
         EXPECT_EQ([shown frame], CGRectMake(0, 0, each.side, each.side));
@@ -343,8 +344,7 @@ TEST_F(AlbumListPresentation, only_a_missing_list_is_created) {
         const nlohmann::json creation = {{"id", "com.apple.mobileslideshow"},
                                          {"array", nlohmann::json::array()},
                                          {"path", "/var/mobile/Library/rollkeeper/lockedAlbums.plist"}};
-        EXPECT_EQ(recorder->requests,
-                  each.isCreated ? std::vector{creation} : std::vector<nlohmann::json>());
+        EXPECT_EQ(recorder->requests, each.isCreated ? std::vector{creation} : std::vector<nlohmann::json>());
         EXPECT_THAT(titlesWithOverlay(), IsEmpty());
         recorder->requests.clear();
     }
