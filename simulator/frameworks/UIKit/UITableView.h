@@ -54,6 +54,9 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 - (UITableViewCell*)tableView:(UITableView*)table cellForRowAtIndexPath:(NSIndexPath*)path;
 @optional
 - (NSInteger)numberOfSectionsInTableView:(UITableView*)table;
+// Texts above and below a section; nil or empty for none.
+- (NSString*)tableView:(UITableView*)table titleForHeaderInSection:(NSInteger)section;
+- (NSString*)tableView:(UITableView*)table titleForFooterInSection:(NSInteger)section;
 @end
 
 @protocol UITableViewDelegate <NSObject>

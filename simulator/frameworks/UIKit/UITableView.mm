@@ -1,11 +1,24 @@
 #import "UIKit/UITableView.h"
 
+#import "UIKit/UIColor.h"
+#import "UIKit/UIFont.h"
+#import "UIKit/UILabel.h"
 #import "UIKit/internal/CellPool.h"
 #import "UIKit/internal/MainThread.h"
+#import "UIKit/internal/Ownership.h"
 #import "UIKit/internal/Selection.h"
 
 using simulator::IndexPair;
 using simulator::mainThreadOnly;
+using simulator::Retained;
+
+namespace {
+
+constexpr CGFloat sectionTextSize = 13;
+constexpr CGFloat sectionTextMargin = 15; // at the sides
+constexpr CGFloat sectionTextSpace = 7;   // above and below
+
+} // namespace
 
 namespace simulator {
 
@@ -22,6 +35,7 @@ struct TableState {
     CellPool<UITableViewCell*> cells;
     std::vector<TableRow> rows;
     std::vector<NSInteger> rowsInSection;
+    std::vector<Retained<UILabel*>> sectionTexts;
     bool needsReload = true;
 };
 
@@ -85,6 +99,9 @@ struct TableState {
     _tableState->cells.recycleUnless([](IndexPair) { return false; });
     _tableState->rows.clear();
     _tableState->rowsInSection.clear();
+    for (const Retained<UILabel*>& text : _tableState->sectionTexts)
+        [text.get() removeFromSuperview];
+    _tableState->sectionTexts.clear();
     id source = _tableState->dataSource;
     const bool asksHeight = [[self delegate] respondsToSelector:@selector(tableView:
                                                                     heightForRowAtIndexPath:)];
@@ -94,6 +111,8 @@ struct TableState {
     for (NSInteger section = 0; section < sections; ++section) {
         const NSInteger count = [source tableView:self numberOfRowsInSection:section];
         _tableState->rowsInSection.push_back(count);
+        if ([source respondsToSelector:@selector(tableView:titleForHeaderInSection:)])
+            top += [self addSectionText:[source tableView:self titleForHeaderInSection:section] at:top];
         for (NSInteger row = 0; row < count; ++row) {
             const IndexPair index{section, row};
             const CGFloat height = asksHeight ? [[self delegate] tableView:self
@@ -102,8 +121,26 @@ struct TableState {
             _tableState->rows.push_back({index, top, height});
             top += height;
         }
+        if ([source respondsToSelector:@selector(tableView:titleForFooterInSection:)])
+            top += [self addSectionText:[source tableView:self titleForFooterInSection:section] at:top];
     }
     [self setContentSize:CGSizeMake([self bounds].size.width, top)];
+}
+
+// Returns the height that the text takes up.
+- (CGFloat)addSectionText:(NSString*)text at:(CGFloat)top {
+    if ([text length] == 0) return 0;
+    UILabel* label = [[UILabel alloc] initWithFrame:CGRectZero];
+    [label setText:text];
+    [label setFont:[UIFont systemFontOfSize:sectionTextSize]];
+    [label setTextColor:[UIColor grayColor]];
+    [label setNumberOfLines:0];
+    const CGFloat width = [self bounds].size.width - 2 * sectionTextMargin;
+    const CGFloat height = [label sizeThatFits:CGSizeMake(width, 0)].height;
+    [label setFrame:CGRectMake(sectionTextMargin, top + sectionTextSpace, width, height)];
+    [self addSubview:label];
+    _tableState->sectionTexts.push_back(Retained<UILabel*>::adopted(label));
+    return height + 2 * sectionTextSpace;
 }
 
 - (NSInteger)numberOfSections {

@@ -75,7 +75,9 @@ struct TableCellState {
 - (UILabel*)detailTextLabel {
     mainThreadOnly(self, _cmd);
     if (_cellState->style == UITableViewCellStyleDefault) return nil;
-    if (!_cellState->detailLabel) _cellState->detailLabel = [self newLabelOfSize:12];
+    if (!_cellState->detailLabel)
+        _cellState->detailLabel =
+            [self newLabelOfSize:_cellState->style == UITableViewCellStyleValue1 ? 17 : 12];
     return _cellState->detailLabel.get();
 }
 
@@ -149,10 +151,20 @@ struct TableCellState {
         left += image ? own.width + margin : 0;
     }
     const CGFloat width = std::max<CGFloat>(size.width - left - accessoryWidth, 0);
-    const bool hasDetail = static_cast<bool>(_cellState->detailLabel);
-    const CGFloat textHeight = hasDetail ? size.height * 0.6 : size.height;
-    [_cellState->textLabel.get() setFrame:CGRectMake(left, 0, width, textHeight)];
-    [_cellState->detailLabel.get() setFrame:CGRectMake(left, textHeight, width, size.height - textHeight)];
+    UILabel* title = _cellState->textLabel.get();
+    UILabel* detail = _cellState->detailLabel.get();
+    if ([[detail text] length] == 0) {
+        [title setFrame:CGRectMake(left, 0, width, size.height)];
+        [detail setFrame:CGRectZero];
+    } else if (_cellState->style == UITableViewCellStyleValue1) {
+        const CGFloat detailWidth = std::min([detail sizeThatFits:CGSizeZero].width, width / 2);
+        [title setFrame:CGRectMake(left, 0, width - detailWidth, size.height)];
+        [detail setFrame:CGRectMake(left + width - detailWidth, 0, detailWidth, size.height)];
+    } else {
+        const CGFloat titleHeight = size.height * 0.6;
+        [title setFrame:CGRectMake(left, 0, width, titleHeight)];
+        [detail setFrame:CGRectMake(left, titleHeight, width, size.height - titleHeight)];
+    }
 }
 
 @end

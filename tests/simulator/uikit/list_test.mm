@@ -7,6 +7,8 @@
     NSInteger count;
     NSInteger selected;
     NSMutableSet* cells;
+    NSString* header;
+    NSString* footer;
 }
 @end
 
@@ -33,6 +35,14 @@
     [[cell textLabel] setText:[NSString stringWithFormat:@"%ld", static_cast<long>([path row])]];
     [cells addObject:cell];
     return cell;
+}
+
+- (NSString*)tableView:(UITableView*)table titleForHeaderInSection:(NSInteger)section {
+    return header;
+}
+
+- (NSString*)tableView:(UITableView*)table titleForFooterInSection:(NSInteger)section {
+    return footer;
 }
 
 - (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path {
@@ -121,6 +131,26 @@ TEST_F(Lists, a_table_follows_its_data_source_when_reloaded) {
     [table layoutIfNeeded];
     EXPECT_EQ([[table visibleCells] count], 3U);
     EXPECT_EQ([table numberOfRowsInSection:0], 3);
+}
+
+TEST_F(Lists, a_table_shows_the_texts_above_and_below_its_sections) {
+    source->count = 2;
+    source->header = @"Title";
+    UITableView* table = addTable();
+    const CGFloat oneLine = CGRectGetMinY([[table cellForRowAtIndexPath:item(0)] frame]);
+    EXPECT_GT(oneLine, 0);
+    EXPECT_EQ([table contentSize].height, oneLine + 2 * 44);
+    source->footer =
+        @"A footer that is so long that it needs more than the one line that a short one would have.";
+    [table reloadData];
+    [table layoutIfNeeded];
+    EXPECT_GT([table contentSize].height, oneLine + 2 * 44 + oneLine);
+    source->header = source->footer = nil;
+    [table reloadData];
+    [table layoutIfNeeded];
+    EXPECT_EQ([table contentSize].height, 2 * 44);
+    for (UIView* view in [table subviews])
+        EXPECT_FALSE([view isKindOfClass:[UILabel class]]);
 }
 
 TEST_F(Lists, a_tap_on_a_row_selects_it) {
