@@ -25,12 +25,14 @@ requirePreset() {
     fail "no such preset: $1 (there are: ${presets[*]})"
 }
 
-# Configures and builds one preset; what the tools say is shown only when something goes wrong.
+# Configures and builds one preset, or only the targets named after it; what the tools say is shown only when something
+# goes wrong.
 buildPreset() {
     local preset=$1 log=build/$1.log
+    shift
     mkdir -p build
     say "Building $preset"
-    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" -- -k 0; } >"$log" 2>&1; then
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"} -- -k 0; } >"$log" 2>&1; then
         grep -E 'error|Error|FAILED' -A 6 "$log" | tail -n 60 >&2 || tail -n 60 "$log" >&2
         say "Building $preset failed; everything the tools said is in $log" >&2
         return 1
