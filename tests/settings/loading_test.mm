@@ -291,6 +291,8 @@ TEST_F(SettingsTest, the_font_size_follows_its_rules) {
         {{{"layoutFontSize", 0}, {"layoutShowSubtitle", false}}, {14, 0}},
         {{{"layoutFontSize", 20}, {"layoutShowTitle", false}}, {0, 20}},
         {{{"layoutFontSize", 0}, {"layoutShowTitle", false}, {"layoutShowSubtitle", false}}, {0, 0}},
+        // The two switches count as they are now, not as they were.
+        {{{"layoutFontSize", 0}}, {14, 14}},
     };
     startPhotos();
     for (const auto& each : cases) {
