@@ -19,8 +19,8 @@ PSListController* pane();
 /// Goes back to the list of Settings and taps the row of an installed tool.
 PSListController* openEntry(const std::string& label);
 
-/// The rows of a pane: [{"group": title or null, "footer": ...}, {"label": "Enabled", "cell": "PSSwitchCell", "key": ...,
-/// "value": ...}].
+/// The rows of a pane: [{"group": title or null, "footer": ...}, {"label": "Enabled", "cell": "PSSwitchCell",
+/// "key": ..., "value": ...}].
 nlohmann::json describePane(PSListController* pane);
 
 /// Changes the control of a row as a user does: true or false for a switch, else a number, text or segment's
