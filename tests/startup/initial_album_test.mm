@@ -55,16 +55,22 @@ INSTANTIATE_TEST_SUITE_P(
                     AlbumCase{json::object({{"Family", 1}}), true, cameraRoll},
                     AlbumCase{json("Family"), true, cameraRoll}));
 
-class CameraStart : public LibraryTest {};
+class DamagedAlbumFile : public LibraryTest, public testing::WithParamInterface<std::string_view> {};
 
-TEST_F(CameraStart, survives_damaged_files) {
+TEST_P(DamagedAlbumFile, leaves_the_camera_without_an_album) {
     writePreferences({{"rememberDefault", true}});
-    device().writeFile(file::cameraAlbum, "<plist version=\"1.0\"><array><string>Fam");
+    device().writeFile(file::cameraAlbum, GetParam());
     start(host::camera);
     EXPECT_EQ(selectedAlbum(), cameraRoll);
 }
 
-TEST_F(CameraStart, finds_an_album_without_a_title_among_the_others_harmless) {
+INSTANTIATE_TEST_SUITE_P(Contents, DamagedAlbumFile,
+                         testing::Values("", "Family", "<plist version=\"1.0\"><array><string>Fam",
+                                         "bplist00\xFF\xFF\xFF\xFF"));
+
+class CameraStart : public LibraryTest {};
+
+TEST_F(CameraStart, is_not_confused_by_an_album_without_a_title) {
     library().addAlbum(std::nullopt);
     library().addAlbum("Last");
     writePreferences({{"rememberDefault", true}});
