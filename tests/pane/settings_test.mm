@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <map>
 
 namespace simulator::test {
@@ -173,6 +174,24 @@ TEST_F(PaneSettings, ShowsAFailedWriteAndWhatStillHolds) {
     settle();
     EXPECT_EQ(heard, 0) << "there is nothing to tell before the file is in place";
 }
+
+class PaneOnRelease : public PaneSettings, public testing::WithParamInterface<Release> {};
+
+TEST_P(PaneOnRelease, ShowsAndStoresEverything) {
+    change([](Conditions& conditions) { conditions.release = GetParam(); });
+    openPane();
+    EXPECT_EQ(shownRows().size(), readTable("settings.tsv").size());
+    openPage({"Your Albums"});
+    openPage({});
+    settings::setControl("Enabled", false);
+    EXPECT_EQ(stored(), (json{{"enabled", false}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PaneOnRelease, testing::ValuesIn(allReleases), [](const auto& release) {
+    std::string name(releaseName(release.param));
+    std::ranges::replace(name, '.', '_');
+    return name;
+});
 
 // Photos runs in a process of its own and learns of the change while it runs.
 TEST_F(PaneSettings, ReachARunningPhotos) {
