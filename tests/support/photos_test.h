@@ -61,6 +61,8 @@ class PhotosTest : public LibraryTest {
     PUAlbumListViewController* openAlbumList(const nlohmann::json& preferences = {},
                                              const std::vector<std::string>& locked = {});
     RequestRecorder* recordRequests();
+    // Waits until the recorder has that many requests, and a moment for one too many.
+    void waitForRequests(RequestRecorder* recorder, std::size_t count);
     // Configures every visible cell anew.
     void reload();
     void setPassword(const std::optional<std::string>& password);

@@ -58,6 +58,12 @@ RequestRecorder* PhotosTest::recordRequests() {
     return recorder;
 }
 
+void PhotosTest::waitForRequests(RequestRecorder* recorder, std::size_t count) {
+    host().runUntil([&] { return recorder->requests.size() >= count; });
+    settle();
+    EXPECT_EQ(recorder->requests.size(), count);
+}
+
 void PhotosTest::reload() {
     [photos::albumList() reloadContentView];
     layOutScreen();

@@ -340,7 +340,7 @@ TEST_F(AlbumListPresentation, only_a_missing_list_is_created) {
             if (each.isUnreadable) conditions.faults.unreadable.push_back(file::lockedAlbums);
         });
         [list viewWillAppear:NO];
-        settle();
+        waitForRequests(recorder, each.isCreated ? 1 : 0);
         const nlohmann::json creation = {{"id", "com.apple.mobileslideshow"},
                                          {"array", nlohmann::json::array()},
                                          {"path", "/var/mobile/Library/rollkeeper/lockedAlbums.plist"}};
