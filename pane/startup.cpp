@@ -16,9 +16,9 @@ constexpr PageMethod albumsPageMethods[] = {{"specifiers", addition<"@@:", speci
 // The names stand in the pane's property lists, too.
 [[gnu::constructor]] void registerPages() {
     const AutoreleasePool pool;
-    registerPage("RKPage", plainPageMethods);
-    registerPage("RKAlbumsPage", albumsPageMethods);
-    registerPage("RKLockingPage", lockingPageMethods());
+    registerPage("RollkeeperPage", plainPageMethods);
+    registerPage("RollkeeperAlbumsPage", albumsPageMethods);
+    registerPage("RollkeeperLockingPage", lockingPageMethods());
 }
 
 } // namespace

@@ -35,7 +35,7 @@ SCRIPTS = {"/postinst", "/postrm"}
 VALUE_CELLS = {"PSSwitchCell": bool, "PSLinkListCell": int}
 TYPES = {"boolean": bool, "integer": int}
 # The classes that the pane's executable makes at run time, and those of the framework.
-PANE_CLASSES = {"RKPage", "RKAlbumsPage", "RKLockingPage"}
+PANE_CLASSES = {"RollkeeperPage", "RollkeeperAlbumsPage", "RollkeeperLockingPage"}
 FRAMEWORK_CLASSES = {"PSListItemsController"}
 # Texts of the pane's code, in its executable rather than in a property list.
 TEXT_KEY = re.compile(rb"[a-zA-Z]+(?:\.[a-zA-Z0-9]+)+")
@@ -202,7 +202,7 @@ def page_faults(pane):
         where = f"{name}: the row {row.get('label')}"
         if row.get("page", "Root") not in pane.pages:
             yield f"{where} leads to the page {row['page']}, which is missing"
-        if row.get("detail", "RKPage") not in PANE_CLASSES | FRAMEWORK_CLASSES:
+        if row.get("detail", "RollkeeperPage") not in PANE_CLASSES | FRAMEWORK_CLASSES:
             yield f"{where} opens a {row['detail']}, which nobody has"
         if row.get("cell") == "PSLinkCell" and not {"detail", "page"} <= set(row):
             yield f"{where} leads nowhere"
