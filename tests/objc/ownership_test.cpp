@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <thread>
-#include <vector>
 
 namespace rollkeeper::test {
 namespace {
@@ -25,7 +24,7 @@ TEST_F(Ownership, copying_an_owner_retains_and_destroying_it_releases) {
     Owner<CountedObject> owner = CountedObject::create();
     EXPECT_EQ(owner->retainCount(), 1U);
     {
-        const Owner<CountedObject> copy = owner;
+        const Owner<CountedObject> copy = owner; // NOLINT(performance-unnecessary-copy-initialization)
         EXPECT_EQ(owner->retainCount(), 2U);
         EXPECT_EQ(copy.get(), owner.get());
     }
@@ -35,7 +34,7 @@ TEST_F(Ownership, copying_an_owner_retains_and_destroying_it_releases) {
 TEST_F(Ownership, moving_an_owner_leaves_the_count_alone) {
     Owner<CountedObject> owner = CountedObject::create();
     const Owner<CountedObject> moved = std::move(owner);
-    EXPECT_FALSE(owner);
+    EXPECT_FALSE(owner); // NOLINT(bugprone-use-after-move)
     EXPECT_EQ(moved->retainCount(), 1U);
 }
 
@@ -152,9 +151,9 @@ TEST_F(Ownership, a_replaced_global_releases_what_it_held) {
 
 TEST_F(Ownership, a_replaced_global_is_balanced_under_many_writers) {
     static constinit ReplacedGlobal<CountedObject> global;
-    std::vector<std::thread> writers;
-    for (int writer = 0; writer < 4; ++writer)
-        writers.emplace_back([] {
+    std::thread writers[4];
+    for (std::thread& writer : writers)
+        writer = std::thread([] {
             for (int turn = 0; turn < 2000; ++turn)
                 global.replace(CountedObject::create());
         });

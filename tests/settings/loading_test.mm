@@ -232,9 +232,9 @@ TEST_F(SettingsTest, readers_on_other_threads_survive_reloads) {
     startPhotos();
     std::atomic<bool> done{false};
     std::atomic<int> readings{0};
-    std::vector<std::thread> readers;
-    for (int reader = 0; reader < 2; ++reader)
-        readers.emplace_back([&] {
+    std::thread readers[2];
+    for (std::thread& reader : readers)
+        reader = std::thread([&] {
             while (!done) {
                 (void)listsAlbum("Family");
                 ++readings;
