@@ -71,7 +71,7 @@ class Bench:
         verdict = "" if goal is None else "met" if goal else "MISSED"
         self.missed += goal is False
         self.rows.append((measured, figures, verdict))
-        print(f"{measured:<52} {figures:<74} {verdict}", flush=True)
+        print(f"{measured:<62} {figures:<66} {verdict}", flush=True)
 
 
 def microseconds(seconds):
