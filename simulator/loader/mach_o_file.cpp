@@ -63,6 +63,8 @@ void addSection(File& file, const Section& section) {
         break;
     }
     if (name == "__eh_frame" && section.size > 0) file.unwindFrames = Range{section.address, section.size};
+    if (name == "__unwind_info" && section.size > 0)
+        file.compactUnwind = Range{section.address, section.size};
 }
 
 void addSegment(File& file, Bytes bytes, Bytes command) {

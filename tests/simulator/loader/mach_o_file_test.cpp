@@ -25,9 +25,10 @@ std::string faultOf(std::span<const std::byte> bytes) {
 
 std::string faultOf(const TestLibrary& library) { return faultOf(library.bytes()); }
 
-TEST(MachOFile, reads_segments_dependencies_and_initialisers) {
+TEST(MachOFile, reads_segments_dependencies_initialisers_and_unwind_information) {
     TestLibrary library;
     library.initialisers.size = 16;
+    library.unwindInfo = TestLibrary::unwindInfoOf(TestLibrary::codeOffset, 40, 0x04000001);
     const auto bytes = library.bytes();
     const File file = parse(bytes);
     ASSERT_EQ(file.segments.size(), 2U);
@@ -38,6 +39,8 @@ TEST(MachOFile, reads_segments_dependencies_and_initialisers) {
     EXPECT_FALSE(file.dependencies[0].weak);
     ASSERT_EQ(file.initialisers.size(), 1U);
     EXPECT_EQ(file.initialisers[0].size, 16U);
+    ASSERT_TRUE(file.compactUnwind.has_value());
+    EXPECT_EQ(file.compactUnwind->address, TestLibrary::unwindOffset);
 }
 
 TEST(MachOFile, decodes_rebases) {
@@ -98,7 +101,8 @@ const Damage damages[] = {
     {"universal", [](auto& l) { l.header.magic = magicUniversal; }, "universal"},
     {"many_commands", [](auto& l) { l.header.commandCount = 1000; }, "truncated"},
     {"long_commands", [](auto& l) { l.header.commandsSize = 0x7fffffff; }, "truncated"},
-    {"empty_command", [](auto& l) { l.text.header.size = 0U - sizeof(Section); }, "impossible size"},
+    {"empty_command", [](auto& l) { l.text.header.size -= sizeof l.text + sizeof(Section); },
+     "impossible size"},
     {"unaligned", [](auto& l) { l.data.address += 0x1000; }, "16 KiB"},
     {"huge", [](auto& l) { l.data.memorySize = ~std::uint64_t{0}; }, "too large"},
     {"content_past_end", [](auto& l) { l.data.fileOffset = 0x100000; }, "truncated"},
