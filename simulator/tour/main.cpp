@@ -14,8 +14,10 @@ namespace {
 using namespace simulator::tour;
 
 constexpr const char* usage =
-    "usage: tour --library FILE --host PROGRAM [--emulator COMMAND] [--road NUMBER]\n"
-    "Walks the library FILE over a device whose applications PROGRAM runs, through COMMAND when given.\n";
+    "usage: tour --library FILE --host PROGRAM --device-files FOLDER [--emulator COMMAND] [--road NUMBER]\n"
+    "Walks the library FILE over a device whose applications PROGRAM runs, through COMMAND when given. "
+    "FOLDER holds\n"
+    "what the package installs.\n";
 
 struct Options {
     Programs programs;
@@ -31,6 +33,8 @@ std::optional<Options> parse(int count, char** arguments) {
             options.programs.library = std::filesystem::absolute(value);
         } else if (name == "--host") {
             options.programs.host = std::filesystem::absolute(value);
+        } else if (name == "--device-files") {
+            options.programs.deviceFiles = std::filesystem::absolute(value);
         } else if (name == "--emulator") {
             std::istringstream words(value);
             options.programs.emulator = {std::istream_iterator<std::string>(words), {}};

@@ -10,6 +10,7 @@ void lockAnAlbum(Stage& stage);
 void workWithAlbumContents(Stage& stage);
 void takePhotosIntoAnAlbum(Stage& stage);
 void compareWhatApplicationsSee(Stage& stage);
+void changeSettingsInThePane(Stage& stage);
 
 inline constexpr Road roads[] = {
     {"The library loads into every application", loadIntoEveryHost},
@@ -17,6 +18,7 @@ inline constexpr Road roads[] = {
     {"Photos move between albums and the Camera Roll", workWithAlbumContents},
     {"The Camera and the share sheet save into albums", takePhotosIntoAnAlbum},
     {"What each application sees of the library", compareWhatApplicationsSee},
+    {"A switch in the settings pane", changeSettingsInThePane},
 };
 
 namespace bundle {

@@ -20,6 +20,7 @@ Stage::Stage(const Programs& programs, const std::filesystem::path& folder)
     : m_programs(programs), m_libraryFile(programs.library.string()), m_device(Device::create(folder)),
       m_photos(PhotoLibrary::open(m_device)) {
     addSmallSample(*m_photos);
+    std::filesystem::copy(m_programs.deviceFiles, m_device.root(), std::filesystem::copy_options::recursive);
 }
 
 HostProcess& Stage::application(const std::string& bundleIdentifier) {

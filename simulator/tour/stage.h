@@ -25,11 +25,13 @@ struct Programs {
     std::filesystem::path host;
     std::filesystem::path library;
     std::vector<std::string> emulator;
+    std::filesystem::path deviceFiles; // what the package installs, as a tree
 };
 
 class Stage {
   public:
-    // A new device in `folder` with the small sample library. Everything on it ends with the stage.
+    // A new device in `folder` with the small sample library and what the package installs. Everything on it
+    // ends with the stage.
     Stage(const Programs& programs, const std::filesystem::path& folder);
 
     const Device& device() const { return m_device; }
