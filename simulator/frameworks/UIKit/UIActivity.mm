@@ -47,8 +47,10 @@
 }
 
 - (void)setFinishHandler:(void (^)(BOOL completed))handler {
-    if (_finishHandler) Block_release(_finishHandler);
+    // Letting go of the old one may free its sheet, which comes back here.
+    const auto old = _finishHandler;
     _finishHandler = Block_copy(handler);
+    if (old) Block_release(old);
 }
 
 - (void)activityDidFinish:(BOOL)completed {

@@ -80,7 +80,8 @@ using simulator::mainThreadOnly;
 }
 
 - (void)finished:(UIActivity*)activity completed:(BOOL)completed {
-    const simulator::Retained<UIActivity*> alive(activity);
+    const simulator::Retained<UIActivity*> aliveActivity(activity);
+    const simulator::Retained<UIViewController*> alive(self);
     [activity setFinishHandler:nil]; // it holds this sheet and the activity
     if (_completion) _completion([activity activityType], completed, nil, nil);
 }
