@@ -52,7 +52,8 @@ std::string sectionNamed(const std::string& name, const std::string& file) {
 
 // The library and the settings pane.
 const std::string binaries[] = {
-    libraryFile(), deviceFiles() + "/Library/PreferenceBundles/RollkeeperPreferences.bundle/RollkeeperPreferences"};
+    libraryFile(),
+    deviceFiles() + "/Library/PreferenceBundles/RollkeeperPreferences.bundle/RollkeeperPreferences"};
 
 // What a binary says it sends. The linker may leave zeros between the lines.
 std::set<std::string> ledgerOf(const std::string& binary) {

@@ -1,5 +1,5 @@
-// A device of its own for each test, with the small sample library, on which the library under test runs inside a
-// host application in the test's process.
+// A device of its own for each test, with the small sample library, on which the library under test runs
+// inside a host application in the test's process.
 #pragma once
 
 #include "device/device.h"

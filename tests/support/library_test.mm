@@ -46,7 +46,8 @@ void LibraryTest::writePreferences(const nlohmann::json& preferences) {
 void LibraryTest::reloadPreferences(const nlohmann::json& preferences) {
     writePreferences(preferences);
     CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(),
-                                         (CFStringRef)@"com.nrv.rollkeeperprefs/reloadPrefs", nullptr, nullptr, true);
+                                         (CFStringRef) @"com.nrv.rollkeeperprefs/reloadPrefs", nullptr,
+                                         nullptr, true);
     settle();
 }
 
@@ -74,8 +75,12 @@ HostProcess LibraryTest::startProcess(const std::string& bundleIdentifier, bool 
     return HostProcess(std::move(options));
 }
 
-HostProcess& LibraryTest::startSpringBoard() { return m_springBoard.emplace(startProcess(host::springBoard)); }
+HostProcess& LibraryTest::startSpringBoard() {
+    return m_springBoard.emplace(startProcess(host::springBoard));
+}
 
-void LibraryTest::waitFor(const std::function<bool()>& condition) { ASSERT_TRUE(m_host->runUntil(condition)); }
+void LibraryTest::waitFor(const std::function<bool()>& condition) {
+    ASSERT_TRUE(m_host->runUntil(condition));
+}
 
 } // namespace simulator::test

@@ -13,7 +13,8 @@ namespace {
 std::vector<std::string> split(const std::string& line) {
     std::vector<std::string> cells;
     std::istringstream stream(line + '\t');
-    for (std::string cell; std::getline(stream, cell, '\t');) cells.push_back(cell);
+    for (std::string cell; std::getline(stream, cell, '\t');)
+        cells.push_back(cell);
     return cells;
 }
 
@@ -33,7 +34,8 @@ std::vector<TableRow> readTable(const std::string& fileName) {
         }
         if (cells.size() != columns.size()) throw std::runtime_error(fileName + ": not a row: " + line);
         TableRow& row = rows.emplace_back();
-        for (std::size_t index = 0; index < cells.size(); ++index) row[columns[index]] = cells[index];
+        for (std::size_t index = 0; index < cells.size(); ++index)
+            row[columns[index]] = cells[index];
     }
     return rows;
 }

@@ -93,7 +93,10 @@ id binaryPropertyListIn(NSString* path) {
     NSData* bytes = [NSData dataWithContentsOfFile:path];
     if ([bytes length] < 8 || std::memcmp([bytes bytes], "bplist00", 8) != 0) return nil;
     @try {
-        return [NSPropertyListSerialization propertyListWithData:bytes options:0 format:nullptr error:nullptr];
+        return [NSPropertyListSerialization propertyListWithData:bytes
+                                                         options:0
+                                                          format:nullptr
+                                                           error:nullptr];
     } @catch (NSException*) {
         return nil; // GNUstep raises where the device answers with an error
     }

@@ -6,6 +6,8 @@ struct objc_object {
     objc_class* class_pointer;
 };
 
-objc_class* object_getClass(objc_object* object) { return object == nullptr ? nullptr : object->class_pointer; }
+objc_class* object_getClass(objc_object* object) {
+    return object == nullptr ? nullptr : object->class_pointer;
+}
 
 } // extern "C"

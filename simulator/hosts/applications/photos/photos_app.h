@@ -51,7 +51,8 @@ PUZoomableGridViewController* openMoments();
 /// Taps Select and then the photos, by their places in the grid.
 void selectPhotos(PUPhotosGridViewController* grid, const std::vector<std::size_t>& places);
 
-/// Taps Add To in the grid or one-up view on the screen and gives the list in which the user chooses the album.
+/// Taps Add To in the grid or one-up view on the screen and gives the list in which the user chooses the
+/// album.
 PUAlbumListViewController* addSelectionToAlbum();
 
 /// Taps a photo outside selection mode and gives the screen with it.
