@@ -63,7 +63,7 @@ void compareWhatApplicationsSee(Stage& stage) {
     stage.device().writePropertyList("/var/mobile/Library/rollkeeper/lockedAlbums.plist",
                                      json::array({"Holidays"}));
     stage.writePreferences({{"albumNameWork", false}});
-    for (const Asset& asset : stage.photos().assetsIn(*stage.photos().albumTitled("Family")))
+    for (const Asset& asset : stage.photos().assetsIn(stage.photos().albumTitled("Family").value()))
         stage.photos().setHidden(asset.identifier, true);
 
     compareOn(stage, Release::ios10_3);

@@ -56,7 +56,7 @@ void loadIntoEveryHost(Stage& stage) {
     stage.check("Photos shows its albums without subtitles", [&] {
         const json albums = stage.application(bundle::photos).call("albums");
         for (const json& album : albums)
-            if (album.at("title") == "Holidays") return album.at("subtitle") == "";
+            if (album.at("title") == "Holidays") return album.at("subtitle").get<std::string>().empty();
         return false;
     });
 

@@ -31,6 +31,11 @@ bool keepsMovedPhotosToItself(PHAssetCollection album) {
     return title && lockedAlbums::reread()->containsObject(title) && !isProcess(bundle::photos());
 }
 
+bool showsMovedPhotos(PHObject collection) {
+    return isOfType(collection, PHAssetCollectionType::album) &&
+           !keepsMovedPhotosToItself(cast<PHAssetCollection>(collection));
+}
+
 } // namespace
 
 // Nothing is filtered here: what a fetch result holds was decided when it was fetched.
@@ -44,10 +49,7 @@ PHFetchResult fetchAssetsInCollection(NSObject self, SEL command, PHObject colle
     const Options options(given);
     if (isOfType(collection, PHAssetCollectionType::smartAlbum)) {
         options.includeHidden(false);
-    } else if (isOfType(collection, PHAssetCollectionType::moment)) {
-        options.includeHidden(true);
-    } else if (isOfType(collection, PHAssetCollectionType::album) &&
-               !keepsMovedPhotosToItself(cast<PHAssetCollection>(collection))) {
+    } else if (isOfType(collection, PHAssetCollectionType::moment) || showsMovedPhotos(collection)) {
         options.includeHidden(true);
     }
     return original<fetchAssetsInCollection>(self, command, collection, PHFetchOptions(options));
