@@ -55,8 +55,9 @@ class LibraryTest : public testing::Test {
     std::optional<std::vector<std::string>> lockedAlbums() const;
     void change(const std::function<void(Conditions&)>& edit) { m_device.changeConditions(edit); }
 
-    // Starts the application with the library under test, in this process.
-    Host& start(const std::string& bundleIdentifier);
+    // Starts the application with the library under test, in this process; what runs before the library loads
+    // already finds the device.
+    Host& start(const std::string& bundleIdentifier, std::function<void()> beforeLoading = {});
     // The same in a process of its own, and without the library.
     HostProcess startProcess(const std::string& bundleIdentifier, bool withLibrary = true);
     // The process that writes state files for all others; runs until the test ends.

@@ -60,9 +60,11 @@ std::optional<std::vector<std::string>> LibraryTest::lockedAlbums() const {
     return m_device.readPropertyList(file::lockedAlbums).get<std::vector<std::string>>();
 }
 
-Host& LibraryTest::start(const std::string& bundleIdentifier) {
-    return m_host.emplace(
-        HostOptions{.bundleIdentifier = bundleIdentifier, .device = m_folder, .library = libraryFile()});
+Host& LibraryTest::start(const std::string& bundleIdentifier, std::function<void()> beforeLoading) {
+    return m_host.emplace(HostOptions{.bundleIdentifier = bundleIdentifier,
+                                      .device = m_folder,
+                                      .library = libraryFile(),
+                                      .beforeLoading = std::move(beforeLoading)});
 }
 
 HostProcess LibraryTest::startProcess(const std::string& bundleIdentifier, bool withLibrary) {
