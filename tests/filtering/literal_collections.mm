@@ -1,0 +1,101 @@
+#import "filtering/literal_collections.h"
+
+namespace simulator::test {
+namespace {
+
+class LiteralAlgorithm {
+  public:
+    LiteralAlgorithm(NSArray* previous, const LiteralWorld& world)
+        : m_world(world), m_result([[previous mutableCopy] autorelease]), m_handled([NSMutableArray array]) {}
+
+    NSArray* result() const { return m_result; }
+
+    void visit(id collection) {
+        if ([collection respondsToSelector:@selector(isTrashBin)] && [collection isTrashBin] &&
+            !isOn(@"showDeleted"))
+            [m_result removeObject:collection];
+        if (![collection respondsToSelector:@selector(assetCollectionSubtype)]) return;
+        if (![collection respondsToSelector:@selector(assetCollectionType)]) return;
+        if ([collection assetCollectionType] == 2) return visitSmartAlbum(collection);
+        if (m_world.coreFoundationVersion < 1443.0 || [collection assetCollectionType] != 1) return;
+        visitAlbum(collection);
+    }
+
+  private:
+    bool isOn(NSString* key) const {
+        NSNumber* value = [m_world.settings objectForKey:key];
+        return value ? [value boolValue] : ![key isEqualToString:@"showHidden"];
+    }
+    bool isProcess(NSString* identifier) const {
+        return [m_world.bundleIdentifier isEqualToString:identifier];
+    }
+    bool isPhotos() const { return isProcess(@"com.apple.mobileslideshow"); }
+    bool isSettings() const { return isProcess(@"com.apple.Preferences"); }
+
+    bool isLocked(NSString* title) const {
+        NSArray* locked = [[[NSArray alloc]
+            initWithContentsOfFile:@"/var/mobile/Library/rollkeeper/lockedAlbums.plist"] autorelease];
+        return title && [locked containsObject:title];
+    }
+
+    bool isVisible(NSString* title) const {
+        if (!title) return true;
+        NSNumber* entry = [m_world.visibility objectForKey:[@"albumName" stringByAppendingString:title]];
+        return !entry || [entry boolValue];
+    }
+
+    void visitSmartAlbum(PHAssetCollection* collection) {
+        const NSInteger subtype = [collection assetCollectionSubtype];
+        bool isKept = subtype != 205 || (isPhotos() && isOn(@"showHidden"));
+        for (const StockSmartAlbum& each : stockSmartAlbums)
+            if (each.subtype == subtype) isKept = isOn(each.key) && (isPhotos() || !isLocked(each.label));
+        if (!isKept) [m_result removeObject:collection];
+    }
+
+    void visitAlbum(PHAssetCollection* collection) {
+        if (!isPhotos())
+            for (PHAssetCollection* album in
+                 [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
+                                                          subtype:PHAssetCollectionSubtypeAlbumRegular
+                                                          options:nil])
+                swap(album);
+        if (![collection respondsToSelector:@selector(title)]) return;
+        NSString* title = [collection title];
+        const bool isSecret = isOn(@"hideLockedFromApps") && isLocked(title) && !isPhotos();
+        if (isSecret || !isVisible(title)) [m_result removeObject:collection];
+    }
+
+    void swap(PHAssetCollection* album) {
+        PHFetchOptions* options = [[[PHFetchOptions alloc] init] autorelease];
+        [options setIncludeHiddenAssets:YES];
+        NSMutableArray* assets = [NSMutableArray array];
+        for (PHAsset* asset in [PHAsset fetchAssetsInAssetCollection:album options:options])
+            [assets addObject:asset];
+        PHAssetCollection* copy = [PHAssetCollection transientAssetCollectionWithAssets:assets
+                                                                                  title:[album title]];
+        // All albums without a title count as one title.
+        id handled = [album title] ? [album title] : [NSNull null];
+        if (![m_handled containsObject:handled] && isVisible([album title])) {
+            [m_handled addObject:handled];
+            if (!isSettings()) [m_result insertObject:copy atIndex:0];
+        }
+        if ([m_result containsObject:album] && !isSettings()) [m_result removeObject:album];
+    }
+
+    const LiteralWorld& m_world;
+    NSMutableArray* m_result;
+    NSMutableArray* m_handled;
+};
+
+} // namespace
+
+NSArray* literalCollections(NSArray* (^previous)(), const LiteralWorld& world) {
+    NSNumber* enabled = [world.settings objectForKey:@"enabled"];
+    if (enabled && ![enabled boolValue]) return previous();
+    LiteralAlgorithm algorithm(previous(), world);
+    for (id collection in previous())
+        algorithm.visit(collection);
+    return algorithm.result();
+}
+
+} // namespace simulator::test
