@@ -1,4 +1,5 @@
 #import "PhotosUI/PUAlbumListViewController.h"
+#import "PhotosUI/BarButton.h"
 
 #import "Dispatch/Dispatch.h"
 #import "PhotosUI/PUNavigationController.h"
@@ -245,23 +246,16 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 - (void)_updateNavigationItem {
     UINavigationItem* item = [self navigationItem];
     if (_sessionInfo) {
-        [item setRightBarButtonItem:[self _itemTitled:@"Cancel" action:@selector(_cancelPicking:)]];
+        [item setRightBarButtonItem:barButton(@"Cancel", self, @selector(_cancelPicking:))];
         return;
     }
     NSMutableArray* right = [NSMutableArray array];
     NSString* editTitle = [self isEditing] ? @"Done" : @"Edit";
-    [right addObject:[self _itemTitled:editTitle action:@selector(_toggleEditing:)]];
-    if (![self disallowsSearch]) [right addObject:[self _itemTitled:@"Search" action:@selector(_search:)]];
+    [right addObject:barButton(editTitle, self, @selector(_toggleEditing:))];
+    if (![self disallowsSearch]) [right addObject:barButton(@"Search", self, @selector(_search:))];
     [item setRightBarButtonItems:right];
     if ([item leftBarButtonItem] == nil)
-        [item setLeftBarButtonItem:[self _itemTitled:@"+" action:@selector(_addAlbum:)]];
-}
-
-- (UIBarButtonItem*)_itemTitled:(NSString*)title action:(SEL)action {
-    return [[[UIBarButtonItem alloc] initWithTitle:title
-                                             style:UIBarButtonItemStylePlain
-                                            target:self
-                                            action:action] autorelease];
+        [item setLeftBarButtonItem:barButton(@"+", self, @selector(_addAlbum:))];
 }
 
 - (BOOL)showPeople {

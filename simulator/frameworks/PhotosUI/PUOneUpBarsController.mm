@@ -1,3 +1,4 @@
+#import "PhotosUI/BarButton.h"
 #import "PhotosUI/PUOneUp.h"
 
 #import "Dispatch/Dispatch.h"
@@ -22,20 +23,12 @@
     [super dealloc];
 }
 
-- (UIBarButtonItem*)_itemTitled:(NSString*)title action:(SEL)action {
-    return [[[UIBarButtonItem alloc] initWithTitle:title
-                                             style:UIBarButtonItemStylePlain
-                                            target:self
-                                            action:action] autorelease];
-}
-
 - (void)updateBars {
-    NSArray* items = [_browsingSession isInTrash]
-                         ? @[ [self _itemTitled:@"Recover" action:@selector(_performRestoreAction)] ]
-                         : @[
-                               [self _itemTitled:@"Add To" action:@selector(_performAddToAlbumAction)],
-                               [self _itemTitled:@"Delete" action:@selector(_performTrashAction)]
-                           ];
+    NSArray* items =
+        [_browsingSession isInTrash] ? @[ barButton(@"Recover", self, @selector(_performRestoreAction)) ] : @[
+            barButton(@"Add To", self, @selector(_performAddToAlbumAction)),
+            barButton(@"Delete", self, @selector(_performTrashAction))
+        ];
     [_viewController setToolbarItems:items animated:NO];
 }
 

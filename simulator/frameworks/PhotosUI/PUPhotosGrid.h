@@ -24,6 +24,7 @@
     PUPhotoSelectionManager* _selectionManager;
     PHFetchResult* _assets;
     BOOL _alwaysHideTabBar;
+    BOOL _needsScrollToBottom;
 }
 @property (nonatomic) BOOL alwaysHideTabBar;
 @property (nonatomic, readonly) PHFetchResult* assets;

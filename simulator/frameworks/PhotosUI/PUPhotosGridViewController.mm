@@ -1,3 +1,4 @@
+#import "PhotosUI/BarButton.h"
 #import "PhotosUI/PUPhotosGrid.h"
 
 #import "Dispatch/Dispatch.h"
@@ -91,7 +92,15 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
     [super viewWillAppear:animated];
     [self reloadAssets];
     [self _updateLayout];
-    if ([self initiallyScrolledToBottom]) [self _scrollToBottom];
+    _needsScrollToBottom = [self initiallyScrolledToBottom];
+}
+
+// Where the bottom is shows only once the grid has its size.
+- (void)viewDidLayoutSubviews {
+    [super viewDidLayoutSubviews];
+    if (!_needsScrollToBottom) return;
+    _needsScrollToBottom = NO;
+    [self _scrollToBottom];
 }
 
 - (void)_updateLayout {
@@ -104,30 +113,22 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
 
 - (void)_scrollToBottom {
     UICollectionView* grid = [self collectionView];
-    CGFloat hidden =
-        [[grid collectionViewLayout] collectionViewContentSize].height - [grid bounds].size.height;
+    [grid layoutIfNeeded];
+    CGFloat hidden = [grid contentSize].height - [grid bounds].size.height;
     if (hidden > 0) [grid setContentOffset:CGPointMake(0, hidden) animated:NO];
-}
-
-- (UIBarButtonItem*)_itemTitled:(NSString*)title action:(SEL)action {
-    return [[[UIBarButtonItem alloc] initWithTitle:title
-                                             style:UIBarButtonItemStylePlain
-                                            target:self
-                                            action:action] autorelease];
 }
 
 - (void)_updateNavigationItem {
     NSString* title = [self isEditing] ? @"Cancel" : @"Select";
-    [[self navigationItem] setRightBarButtonItem:[self _itemTitled:title
-                                                            action:@selector(_toggleSelecting:)]];
+    [[self navigationItem] setRightBarButtonItem:barButton(title, self, @selector(_toggleSelecting:))];
     NSArray* tools = nil;
     if ([self isEditing] && [self showsTrash])
-        tools = @[ [self _itemTitled:@"Recover" action:@selector(_removeButtonPressed:)] ];
+        tools = @[ barButton(@"Recover", self, @selector(_removeButtonPressed:)) ];
     else if ([self isEditing])
         tools = @[
-            [self _itemTitled:@"Share" action:@selector(_shareButtonPressed:)],
-            [self _itemTitled:@"Add To" action:@selector(_addToAlbumButtonPressed:)],
-            [self _itemTitled:@"Delete" action:@selector(_removeButtonPressed:)]
+            barButton(@"Share", self, @selector(_shareButtonPressed:)),
+            barButton(@"Add To", self, @selector(_addToAlbumButtonPressed:)),
+            barButton(@"Delete", self, @selector(_removeButtonPressed:))
         ];
     [self setToolbarItems:tools animated:NO];
     [[self navigationController] setToolbarHidden:tools == nil ? YES : NO];

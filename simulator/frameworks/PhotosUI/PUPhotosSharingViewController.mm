@@ -1,4 +1,5 @@
 #import "PhotosUI/PUPhotosSharingViewController.h"
+#import "PhotosUI/BarButton.h"
 
 namespace {
 
@@ -29,10 +30,8 @@ NSArray* picturesOf(NSArray* assets) {
     _assets = [assets copy];
     NSUInteger count = [assets count];
     [self setTitle:[NSString stringWithFormat:@"%lu Photo%s Selected", count, count == 1 ? "" : "s"]];
-    [[self navigationItem] setLeftBarButtonItem:[self _itemTitled:@"Cancel"
-                                                           action:@selector(_cancelButtonPressed:)]];
-    [[self navigationItem] setRightBarButtonItem:[self _itemTitled:@"Next"
-                                                            action:@selector(_nextButtonPressed:)]];
+    [[self navigationItem] setLeftBarButtonItem:barButton(@"Cancel", self, @selector(_cancelButtonPressed:))];
+    [[self navigationItem] setRightBarButtonItem:barButton(@"Next", self, @selector(_nextButtonPressed:))];
     return self;
 }
 
@@ -40,13 +39,6 @@ NSArray* picturesOf(NSArray* assets) {
     [_assets release];
     [_photosView release];
     [super dealloc];
-}
-
-- (UIBarButtonItem*)_itemTitled:(NSString*)title action:(SEL)action {
-    return [[[UIBarButtonItem alloc] initWithTitle:title
-                                             style:UIBarButtonItemStylePlain
-                                            target:self
-                                            action:action] autorelease];
 }
 
 - (void)viewDidLoad {
