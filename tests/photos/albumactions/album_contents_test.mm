@@ -1,0 +1,259 @@
+// Moved photos become visible again when they leave their last album or come back from the trash; and how an
+// album is shown.
+#include "support/hiding_log.h"
+#include "support/photos_test.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <future>
+
+// An album under a title that a test chooses.
+@interface RetitledAlbum : PUPhotosAlbumViewController {
+  @public
+    NSString* localizedTitle;
+}
+@end
+
+@implementation RetitledAlbum
+
+- (id)assetCollection {
+    return self;
+}
+
+- (NSString*)localizedTitle {
+    return localizedTitle;
+}
+
+@end
+
+namespace simulator::test {
+namespace {
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Numbers = std::vector<std::size_t>;
+using Log = std::vector<std::string>;
+
+class AlbumContents : public PhotosTest {
+  protected:
+    void openPhotos(const json& preferences = {}) {
+        for (std::size_t number = 0; number < 10; ++number)
+            m_identifiers.push_back(identifier(number));
+        openAlbumList(preferences);
+        keepHidingLog(library());
+    }
+    const std::string& idOf(std::size_t number) const { return m_identifiers.at(number); }
+    bool isHidden(std::size_t number) { return library().asset(idOf(number))->hidden; }
+    bool isTrashed(std::size_t number) { return library().asset(idOf(number))->trashed; }
+    void select(PUPhotosGridViewController* grid, const Numbers& numbers) {
+        std::vector<std::size_t> places;
+        for (const std::size_t number : numbers)
+            for (NSUInteger place = 0; place < [[grid assets] count]; ++place)
+                if (text([[[grid assets] objectAtIndex:place] localIdentifier]) == idOf(number))
+                    places.push_back(place);
+        photos::selectPhotos(grid, places);
+    }
+    // Deletes them, whether hidden or not.
+    void throwAway(const Numbers& numbers, bool hidden) {
+        for (const std::size_t number : numbers) {
+            library().setHidden(idOf(number), hidden);
+            library().setTrashed(idOf(number), true);
+        }
+    }
+    static UIViewController* top() {
+        return [[photos::library() selectedNavigationController] topViewController];
+    }
+
+  private:
+    std::vector<std::string> m_identifiers;
+};
+
+#pragma mark Removing
+
+struct RemovalCase {
+    const char* album;
+    Numbers removed;
+    Log expected;
+    Numbers hiddenAfter;
+};
+
+TEST_F(AlbumContents, photos_that_leave_their_last_album_are_shown_first) {
+    const RemovalCase cases[] = {
+        {"Holidays", {0}, {"show 0", "change"}, {1, 2, 6}},
+        {"Holidays", {2}, {"show nothing", "change"}, {0, 1, 2, 6}}, // it is in "Family", too
+        {"Holidays", {2, 1, 0}, {"show 1 0", "change"}, {2, 6}},
+        {"Work", {6}, {"show 6", "change"}, {0, 1, 2}},
+    };
+    openPhotos();
+    for (const bool enabled : {true, false}) {
+        reloadPreferences({{"enabled", enabled}});
+        for (const RemovalCase& each : cases) {
+            SCOPED_TRACE(testing::Message() << testing::PrintToString(each.removed) << " of " << each.album);
+            hide({0, 1, 2, 6});
+            const std::size_t before = numbersIn(each.album).size();
+            select(photos::openAlbum(each.album), each.removed);
+            tapBarButton("Delete");
+            EXPECT_THAT(takeHidingLog(), ElementsAre("present"));
+            tapAlertAction("Remove from Album");
+            EXPECT_EQ(takeHidingLog(), each.expected);
+            waitFor([&] { return numbersIn(each.album).size() == before - each.removed.size(); });
+            for (const std::size_t number : {0, 1, 2, 6})
+                EXPECT_EQ(isHidden(number), std::ranges::count(each.hiddenAfter, number) > 0) << number;
+            Identifiers removed;
+            for (const std::size_t number : each.removed)
+                removed.push_back(idOf(number));
+            library().addToAlbum(library().albumTitled(each.album)->identifier, removed);
+        }
+    }
+}
+
+TEST_F(AlbumContents, removal_runs_without_selection_or_completion) {
+    openPhotos();
+    PUPhotosAlbumViewController* album = photos::openAlbum("Holidays");
+    std::promise<BOOL> success;
+    std::promise<BOOL>* kept = &success;
+    std::future<BOOL> answer = success.get_future();
+    [album _removeSelectedAssetsWithCompletion:^(BOOL isDone) {
+        kept->set_value(isDone);
+    }];
+    waitFor([&] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    EXPECT_TRUE(answer.get());
+    [album _removeSelectedAssetsWithCompletion:nil];
+    EXPECT_THAT(takeHidingLog(), ElementsAre("show nothing", "change", "show nothing", "change"));
+    EXPECT_EQ(numbersIn("Holidays"), (Numbers{0, 1, 2}));
+}
+
+TEST_F(AlbumContents, deleting_from_a_stock_album_shows_photos_too_but_moments_do_not) {
+    openPhotos();
+    select(photos::openAlbum("Videos"), {7});
+    tapBarButton("Delete");
+    EXPECT_THAT(takeHidingLog(), ElementsAre("show 7", "present"));
+    tapAlertAction("Cancel");
+    select(photos::openMoments(), {8});
+    tapBarButton("Delete");
+    EXPECT_THAT(takeHidingLog(), ElementsAre("present"));
+}
+
+TEST_F(AlbumContents, refused_changes_are_not_reported) {
+    hide({0});
+    openPhotos();
+    select(photos::openAlbum("Holidays"), {0});
+    tapBarButton("Delete");
+    change([](Conditions& conditions) { conditions.faults.refuseLibraryChanges = true; });
+    tapAlertAction("Remove from Album");
+    settle();
+    EXPECT_TRUE(isHidden(0));
+    EXPECT_TRUE(frontAlert() == nil);
+    EXPECT_THAT(bannerTexts(), IsEmpty());
+}
+
+#pragma mark Recovering
+
+TEST_F(AlbumContents, recovered_photos_that_are_in_no_album_are_shown_after_the_stock_work) {
+    openPhotos();
+    throwAway({2, 6, 8}, true);
+    PUPhotosAlbumViewController* trash = photos::openAlbum("Recently Deleted");
+    select(trash, {});
+    tapBarButton("Recover");
+    EXPECT_THAT(takeHidingLog(), ElementsAre("show nothing and tell"));
+    select(trash, {2, 6, 8});
+    tapBarButton("Recover");
+    EXPECT_THAT(takeHidingLog(), ElementsAre("present", "show 8 and tell"));
+    tapAlertAction("Recover 3 Photos");
+    EXPECT_THAT(takeHidingLog(), ElementsAre("change"));
+    waitFor([&] { return !isTrashed(2) && !isTrashed(6) && !isTrashed(8); });
+    EXPECT_FALSE(isHidden(8));
+    EXPECT_TRUE(isHidden(6));
+    EXPECT_TRUE(isHidden(2));
+}
+
+TEST_F(AlbumContents, photo_restored_from_its_own_screen_is_shown_when_in_no_album) {
+    const struct {
+        std::size_t number;
+        Log expected;
+        bool isHiddenAfter;
+    } cases[] = {
+        {8, {"change", "show 8 and tell"}, false},
+        {6, {"change"}, true},
+        {2, {"change"}, true},
+        {7, {"change", "show 7 and tell"}, false},
+    };
+    openPhotos();
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.number);
+        throwAway({each.number}, true);
+        PUOneUpViewController* oneUp = photos::openPhoto(photos::openAlbum("Recently Deleted"), 0);
+        tapBarButton("Recover");
+        EXPECT_EQ(takeHidingLog(), each.expected);
+        waitFor([&] { return !isTrashed(each.number) && top() != oneUp; });
+        waitFor([&] { return isHidden(each.number) == each.isHiddenAfter; });
+    }
+}
+
+TEST_F(AlbumContents, restoring_nothing_does_nothing) {
+    openPhotos();
+    throwAway({8}, true);
+    PUOneUpViewController* oneUp = photos::openPhoto(photos::openAlbum("Recently Deleted"), 0);
+    [[[oneUp browsingSession] viewModel] setCurrentAssetReference:nil];
+    tapBarButton("Recover");
+    PUOneUpBarsController* bars = [[[PUOneUpBarsController alloc] initWithBrowsingSession:nil
+                                                                           viewController:nil] autorelease];
+    [bars _performRestoreAction];
+    EXPECT_THAT(takeHidingLog(), IsEmpty());
+}
+
+#pragma mark How an album is shown
+
+TEST_F(AlbumContents, collection_and_filter_reach_the_album) {
+    openPhotos();
+    PUPhotosAlbumViewController* album = [[[PUPhotosAlbumViewController alloc] init] autorelease];
+    [album setAssetCollection:[photos::openAlbum("Family") assetCollection]
+        fetchResultContainingAssetCollection:nil
+                             filterPredicate:[NSPredicate predicateWithFormat:@"favorite == YES"]
+                        existingFetchResults:nil];
+    EXPECT_EQ(text([album title]), "Family");
+    ASSERT_EQ([[album assets] count], 1U);
+    EXPECT_EQ(text([[[album assets] firstObject] localIdentifier]), idOf(3));
+}
+
+TEST_F(AlbumContents, only_what_is_titled_camera_roll_loses_its_section_headers) {
+    openPhotos();
+    PUPhotosAlbumViewController* cameraRoll = photos::openAlbum("Camera Roll");
+    EXPECT_FALSE([cameraRoll shouldShowSectionHeaders]);
+    EXPECT_FALSE([photos::openAlbum("Holidays") shouldShowSectionHeaders]);
+
+    RetitledAlbum* retitled = [[[RetitledAlbum alloc] init] autorelease];
+    [retitled setAssetCollection:[cameraRoll assetCollection]
+        fetchResultContainingAssetCollection:nil
+                             filterPredicate:nil
+                        existingFetchResults:nil];
+    for (NSString* title in @[ @"camera roll", @"Camera Roll ", @"Aufnahmen", @"" ]) {
+        retitled->localizedTitle = title;
+        EXPECT_TRUE([retitled shouldShowSectionHeaders]) << text(title);
+    }
+    retitled->localizedTitle = nil;
+    EXPECT_TRUE([retitled shouldShowSectionHeaders]);
+    retitled->localizedTitle = [NSMutableString stringWithString:@"Camera Roll"];
+    reloadPreferences({{"enabled", false}});
+    EXPECT_FALSE([retitled shouldShowSectionHeaders]);
+}
+
+TEST_F(AlbumContents, albums_open_at_their_newest_photos) {
+    Identifiers many;
+    for (int count = 0; count < 80; ++count)
+        many.push_back(library().addAsset({.created = 1.0 * count}));
+    library().addAlbum("Many", many);
+    openPhotos();
+    for (const bool enabled : {true, false}) {
+        reloadPreferences({{"enabled", enabled}});
+        UICollectionView* grid = [photos::openAlbum("Many") collectionView];
+        EXPECT_EQ(CGRectGetMaxY([grid bounds]),
+                  [[grid collectionViewLayout] collectionViewContentSize].height);
+    }
+    EXPECT_EQ([[photos::openMoments() collectionView] contentOffset].y, 0) << "moments are no album";
+}
+
+} // namespace
+} // namespace simulator::test

@@ -1,0 +1,82 @@
+#include "support/hiding_log.h"
+
+#import "Hooking/Hooking.h"
+#import "PhotosUI/PhotosUI.h"
+#import "hosts/applications/common/screen.h"
+
+#include <objc/runtime.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace simulator::test {
+
+namespace {
+
+struct Log {
+    std::vector<std::string> identifiers;
+    std::vector<std::string> entries;
+    bool isInsideHelper = false;
+};
+
+Log& theLog() {
+    static Log log;
+    return log;
+}
+
+void (*originalApply)(id, SEL, BOOL, id);
+void (*originalPerform)(id, SEL, id, id);
+void (*originalPresent)(id, SEL, id, BOOL, id);
+
+std::string describe(NSArray* assets) {
+    if (assets == nil) return " unset";
+    if ([assets count] == 0) return " nothing";
+    std::string numbers;
+    for (PHAsset* asset in assets) {
+        const auto& all = theLog().identifiers;
+        const auto found = std::ranges::find(all, text([asset localIdentifier]));
+        numbers += " " + std::to_string(found - all.begin());
+    }
+    return numbers;
+}
+
+void logApply(id self, SEL command, BOOL hidden, id completion) {
+    std::string entry = hidden ? "hide" : "show";
+    entry += describe([static_cast<PUAssetHidingHelper*>(self) assets]);
+    if (completion != nil) entry += " and tell";
+    theLog().entries.push_back(entry);
+    theLog().isInsideHelper = true;
+    originalApply(self, command, hidden, completion);
+    theLog().isInsideHelper = false;
+}
+
+void logPerform(id self, SEL command, id changes, id completion) {
+    if (!theLog().isInsideHelper) theLog().entries.emplace_back("change");
+    originalPerform(self, command, changes, completion);
+}
+
+void logPresent(id self, SEL command, id controller, BOOL animated, id completion) {
+    theLog().entries.emplace_back("present");
+    originalPresent(self, command, controller, animated, completion);
+}
+
+template <typename Function>
+void replace(const char* className, SEL selector, Function* replacement, Function** original) {
+    MSHookMessageEx(objc_getClass(className), selector, reinterpret_cast<IMP>(replacement),
+                    reinterpret_cast<IMP*>(original));
+}
+
+} // namespace
+
+void keepHidingLog(PhotoLibrary& library) {
+    for (const Asset& asset : library.assets({.includeHidden = true}))
+        theLog().identifiers.push_back(asset.identifier);
+    replace("PUAssetHidingHelper", @selector(applyHiddenState:completionHandler:), &logApply, &originalApply);
+    replace("PHPhotoLibrary", @selector(performChanges:completionHandler:), &logPerform, &originalPerform);
+    replace("PUPhotosGridViewController", @selector(presentViewController:animated:completion:), &logPresent,
+            &originalPresent);
+}
+
+std::vector<std::string> takeHidingLog() { return std::exchange(theLog().entries, {}); }
+
+} // namespace simulator::test
