@@ -1,4 +1,5 @@
 #include "device/device.h"
+#include "device/living_objects.h"
 #include "hosts/host.h"
 #include "measuring.h"
 #include "scenarios/scenarios.h"
@@ -6,9 +7,6 @@
 #import "hosts/applications/common/screen.h"
 #import "hosts/applications/photos/photos_app.h"
 
-#import <Foundation/NSDebug.h>
-
-#include <cstdlib>
 #include <stdexcept>
 
 namespace bench {
@@ -18,28 +16,6 @@ namespace photos = simulator::photos;
 
 constexpr const char* lockedAlbums = "/var/mobile/Library/rollkeeper/lockedAlbums.plist";
 constexpr const char* recogniser = "UILongPressGestureRecognizer";
-
-using Counts = std::map<std::string, int>;
-
-// The living objects of each class, since GSDebugAllocationActive(YES).
-Counts livingObjects() {
-    Counts counts;
-    Class* classes = GSDebugAllocationClassList();
-    for (Class* each = classes; *each != nullptr; ++each)
-        counts[class_getName(*each)] = GSDebugAllocationCount(*each);
-    std::free(classes);
-    return counts;
-}
-
-Counts growth(const Counts& before, const Counts& after) {
-    Counts grown;
-    for (const auto& [name, count] : after) {
-        const auto found = before.find(name);
-        const int more = count - (found == before.end() ? 0 : found->second);
-        if (more > 0) grown[name] = more;
-    }
-    return grown;
-}
 
 // Configures every visible cell anew.
 void reload() {
@@ -71,7 +47,7 @@ void measureAlbumCell(const Options& options) {
 
 void measureAlbumCellGrowth(const Options& options) {
     const std::size_t wanted = options.number("configurations");
-    GSDebugAllocationActive(YES);
+    simulator::startCountingObjects();
     const simulator::Host host({.bundleIdentifier = photosApplication,
                                 .device = options.text("device"),
                                 .library = options.library()});
@@ -82,11 +58,11 @@ void measureAlbumCellGrowth(const Options& options) {
     if (cells == 0) throw std::runtime_error("the list shows no cell");
 
     const long memoryBefore = memoryInUse();
-    const Counts before = livingObjects();
+    const simulator::ObjectCounts before = simulator::livingObjects();
     std::size_t done = 0;
     for (; done < wanted; done += cells)
         reload();
-    Counts grown = growth(before, livingObjects());
+    simulator::ObjectCounts grown = simulator::growth(before, simulator::livingObjects());
     report("memory", memoryInUse() - memoryBefore);
     report("configurations", done);
     report("recognisers", grown[recogniser]);
