@@ -2,6 +2,8 @@
 // is looked up, then that takes over as if it had been called directly. A message to nil gives zero, whether the
 // caller looks for an integer, a pointer, a floating-point number or a structure of up to four of them.
 
+#include "device/aarch64_arguments.h"
+
     .text
     .globl  objc_msgSend
     .type   objc_msgSend, %function
@@ -9,35 +11,10 @@
 objc_msgSend:
     .cfi_startproc
     cbz     x0, .Lnil
-    stp     x29, x30, [sp, #-224]!
-    .cfi_def_cfa_offset 224
-    .cfi_offset w29, -224
-    .cfi_offset w30, -216
-    mov     x29, sp
-    stp     x0, x1, [sp, #16]
-    stp     x2, x3, [sp, #32]
-    stp     x4, x5, [sp, #48]
-    stp     x6, x7, [sp, #64]
-    str     x8, [sp, #80]
-    stp     q0, q1, [sp, #96]
-    stp     q2, q3, [sp, #128]
-    stp     q4, q5, [sp, #160]
-    stp     q6, q7, [sp, #192]
+    keepArguments
     bl      objc_msgLookup
     mov     x16, x0
-    ldp     q6, q7, [sp, #192]
-    ldp     q4, q5, [sp, #160]
-    ldp     q2, q3, [sp, #128]
-    ldp     q0, q1, [sp, #96]
-    ldr     x8, [sp, #80]
-    ldp     x6, x7, [sp, #64]
-    ldp     x4, x5, [sp, #48]
-    ldp     x2, x3, [sp, #32]
-    ldp     x0, x1, [sp, #16]
-    ldp     x29, x30, [sp], #224
-    .cfi_def_cfa_offset 0
-    .cfi_restore w29
-    .cfi_restore w30
+    restoreArguments
     br      x16
 .Lnil:
     mov     x1, #0

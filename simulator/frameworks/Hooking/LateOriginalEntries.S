@@ -65,6 +65,8 @@ lateOriginalCommon:
 
 #elif defined(__aarch64__)
 
+#include "device/aarch64_arguments.h"
+
     .text
     .balign 16
 lateOriginalEntries:
@@ -78,36 +80,11 @@ lateOriginalEntries:
 
 lateOriginalCommon:
     .cfi_startproc
-    stp x29, x30, [sp, #-224]!
-    .cfi_def_cfa_offset 224
-    .cfi_offset x29, -224
-    .cfi_offset x30, -216
-    mov x29, sp
-    stp x0, x1, [sp, #16]
-    stp x2, x3, [sp, #32]
-    stp x4, x5, [sp, #48]
-    stp x6, x7, [sp, #64]
-    str x8, [sp, #80]
-    stp q0, q1, [sp, #96]
-    stp q2, q3, [sp, #128]
-    stp q4, q5, [sp, #160]
-    stp q6, q7, [sp, #192]
+    keepArguments
     mov w0, w17
     bl simulatorResolveLateOriginal
     mov x17, x0
-    ldp x0, x1, [sp, #16]
-    ldp x2, x3, [sp, #32]
-    ldp x4, x5, [sp, #48]
-    ldp x6, x7, [sp, #64]
-    ldr x8, [sp, #80]
-    ldp q0, q1, [sp, #96]
-    ldp q2, q3, [sp, #128]
-    ldp q4, q5, [sp, #160]
-    ldp q6, q7, [sp, #192]
-    ldp x29, x30, [sp], #224
-    .cfi_def_cfa_offset 0
-    .cfi_restore x29
-    .cfi_restore x30
+    restoreArguments
     br x17
     .cfi_endproc
 
