@@ -1,0 +1,161 @@
+// The tabs of the library, the bar with one tab left, and the size of covers that the corners over them tell.
+#import "PhotosUICore/PhotosUICore.h"
+#include "support/photos_test.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <bit>
+
+namespace simulator::test {
+namespace {
+
+using testing::ElementsAre;
+using Titles = std::vector<std::string>;
+using Modes = std::vector<int>;
+
+// In the order of the exclusions.
+constexpr struct {
+    const char* setting;
+    int mode;
+    const char* title;
+} settings[] = {
+    {"showTabMoments", 0, "Photos"},
+    {"showTabMemories", 9, "Memories"},
+    {"showTabShared", 1, "Shared"},
+    {"showTabAlbums", 2, "Albums"},
+};
+
+Modes modes(NSArray* numbers) {
+    Modes all;
+    for (NSNumber* number in numbers)
+        all.push_back([number intValue]);
+    return all;
+}
+
+Titles tabTitles() {
+    Titles titles;
+    for (UITabBarItem* item in [[photos::library() tabBar] items])
+        titles.push_back(text([item title]));
+    return titles;
+}
+
+UITabBar* barWithItems(NSUInteger count) {
+    NSMutableArray* items = [NSMutableArray array];
+    while ([items count] < count)
+        [items addObject:[[[UITabBarItem alloc] initWithTitle:@"Tab" image:nil tag:0] autorelease]];
+    UITabBar* bar = [[[UITabBar alloc] initWithFrame:CGRectMake(0, 0, 100, 49)] autorelease];
+    [bar setItems:items];
+    return bar;
+}
+
+class Tabs : public PhotosTest {
+  protected:
+    nlohmann::json preferencesShowing(unsigned shown, bool enabled = true) {
+        nlohmann::json preferences = {{"enabled", enabled}};
+        for (unsigned tab = 0; tab < std::size(settings); ++tab)
+            preferences[settings[tab].setting] = (shown & 1U << tab) != 0;
+        return preferences;
+    }
+};
+
+TEST_F(Tabs, are_those_that_the_settings_show) {
+    openAlbumList();
+    PUTabbedLibraryViewController* library = photos::library();
+    PUPhotosAlbumViewController* album = [[[PUPhotosAlbumViewController alloc] init] autorelease];
+    [album setAlwaysHideTabBar:YES];
+    for (unsigned shown = 0; shown < 16; ++shown) {
+        SCOPED_TRACE(shown);
+        reloadPreferences(preferencesShowing(shown));
+        [library setExcludedContentModes:@[ @0, @7 ]]; // the stock list is not looked at
+        Modes excluded;
+        for (unsigned tab = 0; tab < std::size(settings); ++tab)
+            if (!(shown & 1U << tab) && (shown != 0 || settings[tab].mode != 2))
+                excluded.push_back(settings[tab].mode);
+        EXPECT_EQ(modes([library excludedContentModes]), excluded);
+
+        layOutScreen();
+        Titles titles;
+        for (const auto& tab : settings)
+            if (std::ranges::count(excluded, tab.mode) == 0) titles.emplace_back(tab.title);
+        EXPECT_EQ(tabTitles(), titles);
+        if (titles.size() == 1) EXPECT_TRUE([[library tabBar] isHidden]);
+        EXPECT_EQ([album pu_wantsTabBarVisible], std::popcount(shown) == 1) << "none is not one";
+    }
+    for (const unsigned shown : {0U, 1U, 8U, 15U}) {
+        reloadPreferences(preferencesShowing(shown, false));
+        EXPECT_THAT(modes([library excludedContentModes]), ElementsAre(0, 7)) << shown;
+        EXPECT_FALSE([album pu_wantsTabBarVisible]) << shown;
+    }
+    [album setAlwaysHideTabBar:NO];
+    EXPECT_TRUE([album pu_wantsTabBarVisible]) << "the stock answer";
+}
+
+TEST_F(Tabs, bar_of_the_only_tab_is_hidden_from_the_start) {
+    writePreferences(preferencesShowing(0));
+    start(host::photos);
+    layOutScreen();
+    EXPECT_THAT(tabTitles(), ElementsAre("Albums"));
+    EXPECT_TRUE([[photos::library() tabBar] isHidden]);
+}
+
+TEST_F(Tabs, every_bar_with_one_item_is_hidden_when_laid_out) {
+    openAlbumList();
+    for (const bool enabled : {true, false}) {
+        reloadPreferences({{"enabled", enabled}});
+        for (const NSUInteger count : {0U, 1U, 2U, 3U}) {
+            UITabBar* bar = barWithItems(count);
+            EXPECT_FALSE([bar isHidden]) << count;
+            [bar layoutSubviews];
+            EXPECT_EQ([bar isHidden], count == 1) << count;
+            [bar setHidden:YES];
+            [bar layoutSubviews];
+            EXPECT_TRUE([bar isHidden]) << count << ": nobody shows it";
+        }
+        UITabBar* withoutItems = [[[UITabBar alloc] initWithFrame:CGRectZero] autorelease];
+        [withoutItems layoutSubviews];
+        EXPECT_FALSE([withoutItems isHidden]);
+    }
+}
+
+TEST_F(Tabs, bar_with_one_item_calls_itself_hidden_where_it_can_be_asked) {
+    change([](Conditions& conditions) { conditions.release = Release::complete; });
+    openAlbumList();
+    for (const bool enabled : {true, false}) {
+        reloadPreferences({{"enabled", enabled}});
+        for (const NSUInteger count : {0U, 1U, 2U}) {
+            UITabBar* bar = barWithItems(count);
+            EXPECT_EQ([bar hidden], count == 1) << count;
+            [bar setHidden:YES];
+            EXPECT_TRUE([bar hidden]) << count;
+        }
+    }
+}
+
+TEST_F(Tabs, corners_over_a_cover_tell_its_side) {
+    constexpr double sideFromScreen = 180;
+    const struct {
+        double width;
+        double side;
+    } cases[] = {{99, sideFromScreen}, {100, sideFromScreen}, {100.01, 101}, {119.5, 120},
+                 {120, 121},           {120.9, 121},          {260, 261},    {0, sideFromScreen}};
+    change([](Conditions& conditions) { conditions.screen.width = 414; });
+    PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.width);
+        reloadPreferences({{"enabled", each.side != 121}});
+        [list viewWillAppear:NO];
+        PXRoundedCornerOverlayView* corners = [[[PXRoundedCornerOverlayView alloc]
+            initWithFrame:CGRectMake(0, 0, each.width, 300)] autorelease];
+        [corners layoutSubviews];
+        UICollectionView* view = [list mainCollectionView];
+        auto cell =
+            static_cast<PUAlbumListCell*>([list collectionView:view
+                                        cellForItemAtIndexPath:photos::pathOfAlbum(list, "Holidays")]);
+        UIView* cover = [[cell albumListCellContentView] viewWithTag:tag::lockOverlay];
+        EXPECT_EQ([cover frame], CGRectMake(0, 0, each.side, each.side));
+    }
+}
+
+} // namespace
+} // namespace simulator::test

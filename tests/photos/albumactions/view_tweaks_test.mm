@@ -1,0 +1,84 @@
+// Single answers of Photos that a setting changes.
+#import "PhotosUICore/PhotosUICore.h"
+#include "support/photos_test.h"
+
+#include <gmock/gmock.h>
+
+namespace simulator::test {
+namespace {
+
+class ViewTweaks : public PhotosTest {
+  protected:
+    PHAsset* asset(std::size_t number) { return [[PHAsset fetchAssetsWithOptions:nil] objectAtIndex:number]; }
+    // Runs `check` under every pair of the master switch and the setting, and with neither in the file.
+    void underEverySetting(const char* setting, const std::function<void(bool applies)>& check) {
+        openAlbumList();
+        check(false);
+        for (const bool enabled : {true, false, true})
+            for (const bool isOn : {true, false}) {
+                SCOPED_TRACE(testing::Message() << "enabled " << enabled << ", " << setting << ' ' << isOn);
+                reloadPreferences({{"enabled", enabled}, {setting, isOn}});
+                check(enabled && isOn);
+            }
+    }
+};
+
+TEST_F(ViewTweaks, deleting_asks_unless_told_not_to) {
+    std::size_t deleted = 0;
+    underEverySetting("skipDelete", [&](bool applies) {
+        const std::size_t before = library().visibleAssets().size();
+        photos::selectPhotos(photos::openMoments(), {0});
+        tapBarButton("Delete");
+        EXPECT_EQ(frontAlert() == nil, applies);
+        if (!applies) {
+            tapAlertAction("Cancel");
+            return tapBarButton("Cancel"); // ends the selection
+        }
+        ++deleted;
+        waitFor([&] { return library().visibleAssets().size() == before - 1; });
+        settle();
+    });
+    EXPECT_EQ(deleted, 2U);
+    PUDeletePhotosActionController* action =
+        [[[PUDeletePhotosActionController alloc] initWithAssets:@[]] autorelease];
+    [action setShouldSkipDeleteConfirmation:YES];
+    EXPECT_TRUE([action shouldSkipDeleteConfirmation]) << "the stock answer";
+}
+
+TEST_F(ViewTweaks, every_photo_wears_the_live_badge_when_wanted) {
+    underEverySetting("showLiveBadge", [&](bool applies) {
+        for (const std::size_t number : {0U, 9U}) {
+            PUAssetViewModel* model = [[[PUAssetViewModel alloc] initWithAsset:asset(number)] autorelease];
+            EXPECT_EQ([model wantsIrisBadgeVisible], applies || number == 9) << number;
+        }
+    });
+}
+
+TEST_F(ViewTweaks, zoom_limit_is_raised_whatever_is_set) {
+    underEverySetting("increaseZoom", [&](bool applies) {
+        PUOneUpSettings* settings = [[[PUOneUpSettings alloc] init] autorelease];
+        EXPECT_EQ([settings defaultMaximumZoomFactor], applies ? 400.0 : 2.5);
+        for (const double factor : {1.25, 0.0, -3.0, 1000.0}) {
+            [settings setDefaultMaximumZoomFactor:factor];
+            EXPECT_EQ([settings defaultMaximumZoomFactor], applies ? 400.0 : factor);
+        }
+    });
+}
+
+TEST_F(ViewTweaks, stock_albums_are_reordered_as_photos_allows) {
+    underEverySetting("reorderStock", [&](bool) {
+        auto manager = [[[PXPhotoKitCollectionsDataSourceManager alloc] init] autorelease];
+        const auto canReorder = [&](PHAssetCollectionType type) -> bool {
+            return [manager canReorderCollection:[[PHAssetCollection
+                                                     fetchAssetCollectionsWithType:type
+                                                                           subtype:PHAssetCollectionSubtypeAny
+                                                                           options:nil] firstObject]];
+        };
+        EXPECT_TRUE(canReorder(PHAssetCollectionTypeAlbum));
+        EXPECT_FALSE(canReorder(PHAssetCollectionTypeSmartAlbum));
+        EXPECT_FALSE([manager canReorderCollection:nil]);
+    });
+}
+
+} // namespace
+} // namespace simulator::test
