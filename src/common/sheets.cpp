@@ -34,18 +34,18 @@ UITextField Alert::addTextField(NSString placeholder, bool secure) {
     return fields ? cast<UITextField>(fields.objectAtIndex(fields.count() - 1)) : UITextField();
 }
 
-// A sheet without an anchor raises on a pad.
-void Alert::anchorAt(UIView anchor) const {
+void Alert::point(UIView view, CGRect rect) const {
     controller_.setModalPresentationStyle(UIModalPresentationStyle::popover);
     const UIPopoverPresentationController popover = controller_.popoverPresentationController();
-    popover.setSourceView(anchor);
-    popover.setSourceRect(anchor.bounds());
+    popover.setSourceView(view);
+    popover.setSourceRect(rect);
 }
 
 void Alert::present(UIViewController presenter, UIView anchor) const {
     if (!controller_) return;
+    // A sheet that points at no view raises on a pad.
     if (style_ == UIAlertControllerStyle::actionSheet && isPad())
-        anchorAt(anchor ? anchor : presenter.view());
+        point(anchor ? anchor : presenter.view(), anchor.bounds());
     presenter.present(controller_, true, Block());
 }
 

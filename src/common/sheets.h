@@ -23,13 +23,15 @@ class Alert {
     // Returns the field that was added, kept by the alert.
     UITextField addTextField(NSString placeholder, bool secure = false);
 
-    // On a pad an action sheet points at the anchor, or at the presenter's view when there is none; elsewhere
-    // the anchor is not looked at.
-    void present(UIViewController presenter, UIView anchor = UIView()) const;
+    // On a pad an action sheet points at the anchor; without one, at the corner of the presenter's view.
+    // Elsewhere the anchor is not looked at.
+    void present(UIViewController presenter, UIView anchor) const;
+    // The same with the presenter's view for an anchor.
+    void present(UIViewController presenter) const { present(presenter, presenter.view()); }
 
   private:
     void addAction(NSString title, UIAlertActionStyle style, Block handler);
-    void anchorAt(UIView anchor) const;
+    void point(UIView view, CGRect rect) const;
 
     UIAlertController controller_;
     UIAlertControllerStyle style_;
