@@ -183,7 +183,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     for name in ("scenario", "library", "dylib", "results"):
         parser.add_argument(f"--{name}", type=pathlib.Path, required=True)
-    parser.add_argument("--configurations", type=int, default=10_000, help="of album cells, looking for growth")
+    parser.add_argument("--configurations", type=int, default=100_000, help="of album cells, looking for growth")
     options = parser.parse_args()
     folder = pathlib.Path(tempfile.mkdtemp(prefix="bench-"))
     try:
