@@ -53,9 +53,8 @@ void returnAllAlbums() {
 
 void askToReturnAll(UIViewController list) {
     Alert sheet(UIAlertControllerStyle::actionSheet, "Move Album Photos"_ns,
-                "Reset photo albums by returning all photos to the camera roll? Photos will remain in "
-                "folders but also "
-                "appear in the camera roll."_ns);
+                "Reset photo albums by returning all photos to the camera roll? "
+                "Photos will remain in folders but also appear in the camera roll."_ns);
     sheet.addAction("Return all"_ns, [](UIAlertAction) { returnAllAlbums(); });
     sheet.addCancel("Cancel"_ns);
     sheet.present(list);
