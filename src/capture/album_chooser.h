@@ -15,7 +15,7 @@ struct AlbumChooserPolicy {
     void (*picked)(NSObject owner, NSString title);
     void (*created)(NSObject owner, NSString title);
     UIViewController (*presenter)(NSObject owner);
-    UIView (*anchor)(NSObject owner); // for a pad; nil for the presenter's view
+    UIView (*anchor)(NSObject owner); // what the sheet points at on a pad
 };
 extern const AlbumChooserPolicy cameraChooserPolicy;
 extern const AlbumChooserPolicy shareSheetChooserPolicy;

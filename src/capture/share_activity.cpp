@@ -18,6 +18,10 @@ struct ActivityMethods {
     static void chooseAlbum(NSObject activity) { send<ActivityMethods, "chooseAlbum", void>(activity); }
 };
 
+UIViewController rootViewController() {
+    return UIApplication::sharedApplication().keyWindow().rootViewController();
+}
+
 } // namespace
 
 // A created album is only remembered: the shared photo stays where the share sheet put it.
@@ -28,8 +32,8 @@ constexpr AlbumChooserPolicy shareSheetChooserPolicy = {
             ActivityMethods::movePhoto(activity);
         },
     .created = [](NSObject, NSString title) { saveActivityAlbum.set(title); },
-    .presenter = [](NSObject) { return UIApplication::sharedApplication().keyWindow().rootViewController(); },
-    .anchor = [](NSObject) { return UIView(); },
+    .presenter = [](NSObject) { return rootViewController(); },
+    .anchor = [](NSObject) { return rootViewController().view(); },
 };
 
 namespace shareActivity {
