@@ -73,8 +73,8 @@ void keepHidingLog(PhotoLibrary& library) {
         theLog().identifiers.push_back(asset.identifier);
     replace("PUAssetHidingHelper", @selector(applyHiddenState:completionHandler:), &logApply, &originalApply);
     replace("PHPhotoLibrary", @selector(performChanges:completionHandler:), &logPerform, &originalPerform);
-    replace("PUPhotosGridViewController", @selector(presentViewController:animated:completion:), &logPresent,
-            &originalPresent);
+    for (const char* screen : {"PUPhotosGridViewController", "PUAlbumListViewController"})
+        replace(screen, @selector(presentViewController:animated:completion:), &logPresent, &originalPresent);
 }
 
 std::vector<std::string> takeHidingLog() { return std::exchange(theLog().entries, {}); }
