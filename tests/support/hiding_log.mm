@@ -13,16 +13,9 @@ namespace simulator::test {
 
 namespace {
 
-struct Log {
-    std::vector<std::string> identifiers;
-    std::vector<std::string> entries;
-    bool isInsideHelper = false;
-};
-
-Log& theLog() {
-    static Log log;
-    return log;
-}
+std::vector<std::string> identifiers;
+std::vector<std::string> entries;
+bool isInsideHelper = false;
 
 void (*originalApply)(id, SEL, BOOL, id);
 void (*originalPerform)(id, SEL, id, id);
@@ -33,30 +26,27 @@ std::string describe(NSArray* assets) {
     if ([assets count] == 0) return " nothing";
     std::string numbers;
     for (PHAsset* asset in assets) {
-        const auto& all = theLog().identifiers;
-        const auto found = std::ranges::find(all, text([asset localIdentifier]));
-        numbers += " " + std::to_string(found - all.begin());
+        const auto found = std::ranges::find(identifiers, text([asset localIdentifier]));
+        numbers += " " + std::to_string(found - identifiers.begin());
     }
     return numbers;
 }
 
 void logApply(id self, SEL command, BOOL hidden, id completion) {
-    std::string entry = hidden ? "hide" : "show";
-    entry += describe([static_cast<PUAssetHidingHelper*>(self) assets]);
-    if (completion != nil) entry += " and tell";
-    theLog().entries.push_back(entry);
-    theLog().isInsideHelper = true;
+    const std::string assets = describe([static_cast<PUAssetHidingHelper*>(self) assets]);
+    entries.push_back((hidden ? "hide" : "show") + assets + (completion ? " and tell" : ""));
+    isInsideHelper = true;
     originalApply(self, command, hidden, completion);
-    theLog().isInsideHelper = false;
+    isInsideHelper = false;
 }
 
 void logPerform(id self, SEL command, id changes, id completion) {
-    if (!theLog().isInsideHelper) theLog().entries.emplace_back("change");
+    if (!isInsideHelper) entries.emplace_back("change");
     originalPerform(self, command, changes, completion);
 }
 
 void logPresent(id self, SEL command, id controller, BOOL animated, id completion) {
-    theLog().entries.emplace_back("present");
+    entries.emplace_back("present");
     originalPresent(self, command, controller, animated, completion);
 }
 
@@ -70,13 +60,13 @@ void replace(const char* className, SEL selector, Function* replacement, Functio
 
 void keepHidingLog(PhotoLibrary& library) {
     for (const Asset& asset : library.assets({.includeHidden = true}))
-        theLog().identifiers.push_back(asset.identifier);
+        identifiers.push_back(asset.identifier);
     replace("PUAssetHidingHelper", @selector(applyHiddenState:completionHandler:), &logApply, &originalApply);
     replace("PHPhotoLibrary", @selector(performChanges:completionHandler:), &logPerform, &originalPerform);
     for (const char* screen : {"PUPhotosGridViewController", "PUAlbumListViewController"})
         replace(screen, @selector(presentViewController:animated:completion:), &logPresent, &originalPresent);
 }
 
-std::vector<std::string> takeHidingLog() { return std::exchange(theLog().entries, {}); }
+std::vector<std::string> takeHidingLog() { return std::exchange(entries, {}); }
 
 } // namespace simulator::test

@@ -1,0 +1,141 @@
+// Photos that were picked for an album and are moved: which ones are hidden, wherever they were picked, and
+// out of which album they go.
+#include "support/hiding_log.h"
+#include "support/photos_test.h"
+
+@interface PUAlbumListViewController (Moving)
+- (void)reloadCameraRollWithMove:(BOOL)move;
+@end
+
+// A screen that shows what no tile was made for.
+@interface OneUpWithOtherTile : PUOneUpViewController
+@end
+
+@implementation OneUpWithOtherTile
+
+- (id)_currentContentTileController {
+    return @"no tile";
+}
+
+@end
+
+namespace simulator::test {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class PickedPhotos : public PhotosTest {
+  protected:
+    // Without the tab of moments no grid of them is known.
+    PUAlbumListViewController* openPhotos(bool withMoments = false) {
+        PUAlbumListViewController* list = openAlbumList({{"showTabMoments", withMoments}});
+        keepHidingLog(library());
+        return list;
+    }
+    // Screens that only their owner keeps. The user's albums by their places.
+    PUPhotosAlbumViewController* makeAlbum(NSUInteger place) {
+        PHFetchResult* albums = [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
+                                                                         subtype:PHAssetCollectionSubtypeAny
+                                                                         options:nil];
+        PUPhotosAlbumViewController* album = [[[PUPhotosAlbumViewController alloc] init] autorelease];
+        [album setAssetCollection:place < [albums count] ? [albums objectAtIndex:place] : nil
+            fetchResultContainingAssetCollection:nil
+                                 filterPredicate:nil
+                            existingFetchResults:nil];
+        return album;
+    }
+    void showOneUp(Class cls, std::size_t number) {
+        PUBrowsingSession* session = [[[PUBrowsingSession alloc] initWithAsset:asset(number)
+                                                                       inTrash:NO] autorelease];
+        [[[[cls alloc] initWithBrowsingSession:session] autorelease] viewDidLayoutSubviews];
+    }
+    static PHAsset* asset(std::size_t number) {
+        PHFetchOptions* options = [[[PHFetchOptions alloc] init] autorelease];
+        [options setIncludeHiddenAssets:YES];
+        return [[PHAsset fetchAssetsWithOptions:options] objectAtIndex:number];
+    }
+    static void pick(PUPhotosGridViewController* grid, std::size_t number) {
+        [[grid photoSelectionManager] setSelected:YES forAsset:asset(number)];
+    }
+    static Log logOfMove(PUAlbumListViewController* list) {
+        takeHidingLog();
+        [list reloadCameraRollWithMove:YES];
+        return takeHidingLog();
+    }
+};
+
+TEST_F(PickedPhotos, are_hidden_where_they_were_picked) {
+    using photos::openAlbum, photos::openMoments, photos::openPhoto, photos::selectPhotos;
+    const struct {
+        const char* name;
+        void (*pick)();
+        Log expected;
+    } cases[] = {
+        {"moments", [] { selectPhotos(openMoments(), {0, 9}); }, {"hide 0 9"}},
+        {"none of moments", [] { tapBarButton("Cancel"); }, {"hide nothing"}},
+        {"one-up from moments", [] { openPhoto(openMoments(), 4); }, {"hide nothing"}},
+        {"camera roll", [] { selectPhotos(openAlbum("Camera Roll"), {3, 1}); }, {"hide 3 1"}},
+        {"the album goes before moments", [] { selectPhotos(openMoments(), {5}); }, {"hide 3 1"}},
+        {"an album", [] { selectPhotos(openAlbum("Family"), {1}); }, {"change", "hide 3"}},
+        {"stock album", [] { selectPhotos(openAlbum("Videos"), {0}); }, {"change", "hide 7"}},
+        {"none of an album", [] { openAlbum("Holidays"); }, {"hide nothing"}},
+        {"one-up", [] { openPhoto(openAlbum("Holidays"), 1); }, {"hide 1"}},
+        {"one-up of a video", [] { openPhoto(openAlbum("Videos"), 0); }, {"hide 7"}},
+    };
+    PUAlbumListViewController* list = openPhotos(true);
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        @autoreleasepool {
+            each.pick();
+        }
+        settle();
+        takeHidingLog();
+        [list reloadCameraRollWithMove:NO];
+        EXPECT_EQ(takeHidingLog(), Log()) << "a copy hides nothing";
+        EXPECT_EQ(logOfMove(list), each.expected);
+        settle();
+        for (std::size_t number = 0; number < 10; ++number)
+            library().setHidden(identifier(number), false);
+    }
+    EXPECT_EQ(numbersIn("Family"), (std::vector<std::size_t>{2, 4, 5})) << "what is moved leaves its album";
+    EXPECT_EQ(numbersIn("Holidays").size(), 3U);
+}
+
+TEST_F(PickedPhotos, of_controllers_that_have_gone_are_not_touched) {
+    PUAlbumListViewController* list = openPhotos();
+    EXPECT_EQ(logOfMove(list), Log{"hide unset"}) << "nothing was ever known";
+    PUPhotosAlbumViewController* holidays = makeAlbum(0);
+    pick(holidays, 2);
+    @autoreleasepool {
+        pick(makeAlbum(1), 3);
+    }
+    EXPECT_EQ(logOfMove(list), Log{"hide unset"}) << "what came before the last one does not come back";
+    for (int round = 0; round < 3; ++round) { // often at the same address
+        @autoreleasepool {
+            PUPhotosAlbumViewController* album = makeAlbum(99);
+            EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
+            @autoreleasepool {
+                showOneUp([PUOneUpViewController class], 6);
+                EXPECT_EQ(logOfMove(list), Log{"hide 6"});
+                showOneUp([OneUpWithOtherTile class], 6);
+                EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
+            }
+            EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
+            pick(album, 4);
+            EXPECT_EQ(logOfMove(list), Log{"hide 4"}) << "without a collection there is none to leave";
+        }
+        @autoreleasepool {
+            auto grid = [[[PUZoomableGridViewController alloc] init] autorelease];
+            [grid viewWillAppear:NO];
+            pick(grid, 8);
+            EXPECT_EQ(logOfMove(list), Log{"hide 8"});
+        }
+        EXPECT_EQ(logOfMove(list), Log{"hide unset"});
+        settle();
+        for (const std::size_t number : {4, 6, 8})
+            library().setHidden(identifier(number), false);
+    }
+}
+
+} // namespace
+} // namespace simulator::test
