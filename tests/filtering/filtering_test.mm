@@ -1,29 +1,6 @@
 #import "filtering/filtering_test.h"
 
 #import "CoreFoundation/CoreFoundation.h"
-#import "device/json_objects.h"
-#import "hosts/applications/common/screen.h"
-
-@implementation UntypedCollection
-
-- (PHAssetCollectionSubtype)assetCollectionSubtype {
-    return static_cast<PHAssetCollectionSubtype>(subtype);
-}
-
-// Lets a fetch of assets take it for an empty collection.
-- (NSArray*)transientIdentifiers {
-    return @[];
-}
-
-@end
-
-@implementation UntitledCollection
-
-- (PHAssetCollectionType)assetCollectionType {
-    return static_cast<PHAssetCollectionType>(type);
-}
-
-@end
 
 @implementation FakeCollection
 
@@ -40,12 +17,29 @@
     [super dealloc];
 }
 
+- (BOOL)respondsToSelector:(SEL)selector {
+    return lacking.contains(sel_getName(selector)) ? NO : [super respondsToSelector:selector];
+}
+
+- (NSInteger)assetCollectionType {
+    return type;
+}
+
+- (NSInteger)assetCollectionSubtype {
+    return subtype;
+}
+
 - (NSString*)title {
     return title;
 }
 
 - (BOOL)isTrashBin {
     return isTrash;
+}
+
+// Lets a fetch of assets take it for an empty collection.
+- (NSArray*)transientIdentifiers {
+    return @[];
 }
 
 @end
@@ -63,6 +57,22 @@ void notificationArrived(CFNotificationCenterRef, void*, CFStringRef, const void
 
 } // namespace
 
+PHFetchResult* albums(PHAssetCollectionType type, NSInteger subtype) {
+    return [PHAssetCollection fetchAssetCollectionsWithType:type
+                                                    subtype:static_cast<PHAssetCollectionSubtype>(subtype)
+                                                    options:nil];
+}
+
+PHAssetCollection* album(NSString* title) {
+    for (PHAssetCollection* each in albums())
+        if ([[each title] isEqualToString:title]) return each;
+    return nil;
+}
+
+NSArray* listed(NSArray* collections) {
+    return [[PHCollectionList transientCollectionListWithCollections:collections title:nil] collections];
+}
+
 void FilteringTest::startComplete(const std::string& bundleIdentifier) {
     change([](Conditions& conditions) { conditions.release = Release::complete; });
     start(bundleIdentifier);
@@ -71,7 +81,7 @@ void FilteringTest::startComplete(const std::string& bundleIdentifier) {
                                     (CFStringRef)reloadName, nullptr, 0);
 }
 
-void FilteringTest::reload(const nlohmann::json& preferences) {
+void FilteringTest::setPreferences(const nlohmann::json& preferences) {
     writePreferences(preferences);
     for (const auto& [key, value] : preferences.items())
         if (key.find("albumName") != key.npos)
@@ -80,41 +90,6 @@ void FilteringTest::reload(const nlohmann::json& preferences) {
     CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(), (CFStringRef)reloadName,
                                          nullptr, nullptr, true);
     waitFor([&] { return arrivedNotifications > before; });
-}
-
-PHFetchResult* FilteringTest::albums(PHAssetCollectionType type) {
-    return [PHAssetCollection fetchAssetCollectionsWithType:type
-                                                    subtype:PHAssetCollectionSubtypeAny
-                                                    options:nil];
-}
-
-PHAssetCollection* FilteringTest::album(NSString* title) {
-    for (PHAssetCollection* each in albums())
-        if ([[each title] isEqualToString:title]) return each;
-    return nil;
-}
-
-std::vector<std::string> FilteringTest::filtered(NSArray* listed) {
-    PHCollectionList* list = [PHCollectionList transientCollectionListWithCollections:listed title:nil];
-    return describe([list collections], listed);
-}
-
-std::vector<std::string> FilteringTest::describe(NSArray* answer, NSArray* listed) {
-    PHFetchOptions* options = [[[PHFetchOptions alloc] init] autorelease];
-    [options setIncludeHiddenAssets:YES];
-    std::vector<std::string> described;
-    for (id each in answer) {
-        const NSUInteger index = [listed indexOfObject:each];
-        if (index != NSNotFound) {
-            described.push_back(std::to_string(index));
-            continue;
-        }
-        std::string copy = [each title] ? text([each title]) : "(untitled)";
-        for (PHAsset* asset in [PHAsset fetchAssetsInAssetCollection:each options:options])
-            copy += " " + text([asset localIdentifier]);
-        described.push_back(copy);
-    }
-    return described;
 }
 
 } // namespace simulator::test

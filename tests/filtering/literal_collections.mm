@@ -6,7 +6,9 @@ namespace {
 class LiteralAlgorithm {
   public:
     LiteralAlgorithm(NSArray* previous, const LiteralWorld& world)
-        : m_world(world), m_result([[previous mutableCopy] autorelease]), m_handled([NSMutableArray array]) {}
+        : m_world(world), m_isPhotos([world.bundleIdentifier isEqualToString:@"com.apple.mobileslideshow"]),
+          m_isSettings([world.bundleIdentifier isEqualToString:@"com.apple.Preferences"]),
+          m_result([[previous mutableCopy] autorelease]), m_handled([NSMutableArray array]) {}
 
     NSArray* result() const { return m_result; }
 
@@ -14,11 +16,12 @@ class LiteralAlgorithm {
         if ([collection respondsToSelector:@selector(isTrashBin)] && [collection isTrashBin] &&
             !isOn(@"showDeleted"))
             [m_result removeObject:collection];
-        if (![collection respondsToSelector:@selector(assetCollectionSubtype)]) return;
-        if (![collection respondsToSelector:@selector(assetCollectionType)]) return;
-        if ([collection assetCollectionType] == 2) return visitSmartAlbum(collection);
-        if (m_world.coreFoundationVersion < 1443.0 || [collection assetCollectionType] != 1) return;
-        visitAlbum(collection);
+        if (![collection respondsToSelector:@selector(assetCollectionSubtype)] ||
+            ![collection respondsToSelector:@selector(assetCollectionType)])
+            return;
+        const NSInteger type = [collection assetCollectionType];
+        if (type == 2) visitSmartAlbum(collection);
+        if (type == 1 && m_world.coreFoundationVersion >= 1443.0) visitAlbum(collection);
     }
 
   private:
@@ -26,18 +29,11 @@ class LiteralAlgorithm {
         NSNumber* value = [m_world.settings objectForKey:key];
         return value ? [value boolValue] : ![key isEqualToString:@"showHidden"];
     }
-    bool isProcess(NSString* identifier) const {
-        return [m_world.bundleIdentifier isEqualToString:identifier];
-    }
-    bool isPhotos() const { return isProcess(@"com.apple.mobileslideshow"); }
-    bool isSettings() const { return isProcess(@"com.apple.Preferences"); }
-
     bool isLocked(NSString* title) const {
         NSArray* locked = [[[NSArray alloc]
             initWithContentsOfFile:@"/var/mobile/Library/rollkeeper/lockedAlbums.plist"] autorelease];
         return title && [locked containsObject:title];
     }
-
     bool isVisible(NSString* title) const {
         if (!title) return true;
         NSNumber* entry = [m_world.visibility objectForKey:[@"albumName" stringByAppendingString:title]];
@@ -46,14 +42,14 @@ class LiteralAlgorithm {
 
     void visitSmartAlbum(PHAssetCollection* collection) {
         const NSInteger subtype = [collection assetCollectionSubtype];
-        bool isKept = subtype != 205 || (isPhotos() && isOn(@"showHidden"));
+        bool isKept = subtype != 205 || (m_isPhotos && isOn(@"showHidden"));
         for (const StockSmartAlbum& each : stockSmartAlbums)
-            if (each.subtype == subtype) isKept = isOn(each.key) && (isPhotos() || !isLocked(each.label));
+            if (each.subtype == subtype) isKept = isOn(each.key) && (m_isPhotos || !isLocked(each.label));
         if (!isKept) [m_result removeObject:collection];
     }
 
     void visitAlbum(PHAssetCollection* collection) {
-        if (!isPhotos())
+        if (!m_isPhotos)
             for (PHAssetCollection* album in
                  [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
                                                           subtype:PHAssetCollectionSubtypeAlbumRegular
@@ -61,7 +57,7 @@ class LiteralAlgorithm {
                 swap(album);
         if (![collection respondsToSelector:@selector(title)]) return;
         NSString* title = [collection title];
-        const bool isSecret = isOn(@"hideLockedFromApps") && isLocked(title) && !isPhotos();
+        const bool isSecret = isOn(@"hideLockedFromApps") && isLocked(title) && !m_isPhotos;
         if (isSecret || !isVisible(title)) [m_result removeObject:collection];
     }
 
@@ -71,18 +67,19 @@ class LiteralAlgorithm {
         NSMutableArray* assets = [NSMutableArray array];
         for (PHAsset* asset in [PHAsset fetchAssetsInAssetCollection:album options:options])
             [assets addObject:asset];
-        PHAssetCollection* copy = [PHAssetCollection transientAssetCollectionWithAssets:assets
-                                                                                  title:[album title]];
-        // All albums without a title count as one title.
-        id handled = [album title] ? [album title] : [NSNull null];
-        if (![m_handled containsObject:handled] && isVisible([album title])) {
+        NSString* title = [album title];
+        PHAssetCollection* copy = [PHAssetCollection transientAssetCollectionWithAssets:assets title:title];
+        id handled = title ? title : [NSNull null]; // all albums without a title count as one title
+        if (![m_handled containsObject:handled] && isVisible(title)) {
             [m_handled addObject:handled];
-            if (!isSettings()) [m_result insertObject:copy atIndex:0];
+            if (!m_isSettings) [m_result insertObject:copy atIndex:0];
         }
-        if ([m_result containsObject:album] && !isSettings()) [m_result removeObject:album];
+        if ([m_result containsObject:album] && !m_isSettings) [m_result removeObject:album];
     }
 
     const LiteralWorld& m_world;
+    bool m_isPhotos;
+    bool m_isSettings;
     NSMutableArray* m_result;
     NSMutableArray* m_handled;
 };
