@@ -46,15 +46,11 @@ class AlbumContents : public PhotosTest {
                     places.push_back(place);
         photos::selectPhotos(grid, places);
     }
-    // Deletes them, whether hidden or not.
-    void throwAway(const Numbers& numbers, bool hidden) {
+    void hideAndDelete(const Numbers& numbers) {
         for (const std::size_t number : numbers) {
-            library().setHidden(idOf(number), hidden);
+            library().setHidden(idOf(number), true);
             library().setTrashed(idOf(number), true);
         }
-    }
-    static UIViewController* top() {
-        return [[photos::library() selectedNavigationController] topViewController];
     }
 
   private:
@@ -93,17 +89,15 @@ TEST_F(AlbumContents, photos_that_leave_their_last_album_are_shown_first) {
         EXPECT_EQ(isHidden(number), number == 1 || number == 4) << number;
 }
 
-TEST_F(AlbumContents, removal_runs_without_selection_or_completion) {
+TEST_F(AlbumContents, removal_without_selection_shows_nothing_and_tells) {
     openPhotos();
-    PUPhotosAlbumViewController* album = photos::openAlbum("Holidays");
     bool isDone = false;
     bool* done = &isDone;
-    [album _removeSelectedAssetsWithCompletion:^(BOOL success) {
+    [photos::openAlbum("Holidays") _removeSelectedAssetsWithCompletion:^(BOOL success) {
         *done = success == YES;
     }];
+    EXPECT_EQ(takeHidingLog(), (Log{"show nothing", "change"}));
     waitFor([&] { return isDone; });
-    [album _removeSelectedAssetsWithCompletion:nil];
-    EXPECT_EQ(takeHidingLog(), (Log{"show nothing", "change", "show nothing", "change"}));
 }
 
 TEST_F(AlbumContents, deleting_from_a_stock_album_shows_photos_too_but_moments_do_not) {
@@ -121,7 +115,7 @@ TEST_F(AlbumContents, deleting_from_a_stock_album_shows_photos_too_but_moments_d
 
 TEST_F(AlbumContents, recovered_photos_that_are_in_no_album_are_shown_after_the_stock_work) {
     openPhotos();
-    throwAway({2, 6, 8}, true);
+    hideAndDelete({2, 6, 8});
     PUPhotosAlbumViewController* trash = photos::openAlbum("Recently Deleted");
     select(trash, {});
     tapBarButton("Recover");
@@ -143,14 +137,14 @@ TEST_F(AlbumContents, photo_restored_from_its_own_screen_is_shown_when_in_no_alb
     openPhotos();
     for (const auto& each : cases) {
         SCOPED_TRACE(each.number);
-        throwAway({each.number}, true);
+        hideAndDelete({each.number});
         PUOneUpViewController* oneUp = photos::openPhoto(photos::openAlbum("Recently Deleted"), 0);
         tapBarButton("Recover");
         EXPECT_EQ(takeHidingLog(), each.expected);
-        waitFor([&] { return !isTrashed(each.number) && top() != oneUp; });
+        waitFor([&] { return !isTrashed(each.number) && controllerOnScreen() != oneUp; });
         EXPECT_EQ(isHidden(each.number), each.expected.size() == 1);
     }
-    throwAway({7}, true);
+    hideAndDelete({7});
     PUOneUpViewController* oneUp = photos::openPhoto(photos::openAlbum("Recently Deleted"), 0);
     [[[oneUp browsingSession] viewModel] setCurrentAssetReference:nil];
     tapBarButton("Recover");

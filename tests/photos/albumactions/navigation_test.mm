@@ -104,8 +104,7 @@ TEST_F(Navigation, button_sends_the_controller_its_message) {
     EXPECT_TRUE([button target] == navigation() && sel_isEqual([button action], @selector(syncAlbums)));
     [navigation() syncAlbums];
     EXPECT_TRUE(frontAlert() == nil);
-    EXPECT_TRUE([[[[PUNavigationController alloc] init] autorelease] navigationBar] != nil)
-        << "without items";
+    [[[[PUNavigationController alloc] init] autorelease] navigationBar]; // has no item
 }
 
 #pragma mark The button's sheets
@@ -250,8 +249,6 @@ TEST_F(Navigation, background_closes_an_album_as_the_settings_say) {
     object_setIvar(photos::application(), library, nil);
     [photos::application() returnToMainView];
 }
-
-#pragma mark Releases
 
 class NavigationOnReleases : public Navigation, public testing::WithParamInterface<Release> {};
 

@@ -69,14 +69,6 @@ TEST_F(Tabs, are_those_that_the_settings_show) {
     }
 }
 
-TEST_F(Tabs, bar_of_the_only_tab_is_hidden_from_the_start) {
-    writePreferences(preferencesShowing(0));
-    start(host::photos);
-    layOutScreen();
-    EXPECT_EQ(modes([photos::library() displayedContentModes]), Modes{2});
-    EXPECT_TRUE([[photos::library() tabBar] isHidden]);
-}
-
 TEST_F(Tabs, every_bar_with_one_item_is_hidden_when_laid_out) {
     change([](Conditions& conditions) { conditions.release = Release::complete; });
     openAlbumList();

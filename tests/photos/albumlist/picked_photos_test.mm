@@ -32,13 +32,10 @@ class PickedPhotos : public PhotosTest {
         keepHidingLog(library());
         return list;
     }
-    // Screens that only their owner keeps. The user's albums by their places.
-    PUPhotosAlbumViewController* makeAlbum(NSUInteger place) {
-        PHFetchResult* albums = [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
-                                                                         subtype:PHAssetCollectionSubtypeAny
-                                                                         options:nil];
+    // Of no collection, and kept by its owner only.
+    PUPhotosAlbumViewController* makeAlbum() {
         PUPhotosAlbumViewController* album = [[[PUPhotosAlbumViewController alloc] init] autorelease];
-        [album setAssetCollection:place < [albums count] ? [albums objectAtIndex:place] : nil
+        [album setAssetCollection:nil
             fetchResultContainingAssetCollection:nil
                                  filterPredicate:nil
                             existingFetchResults:nil];
@@ -104,15 +101,15 @@ TEST_F(PickedPhotos, are_hidden_where_they_were_picked) {
 TEST_F(PickedPhotos, of_controllers_that_have_gone_are_not_touched) {
     PUAlbumListViewController* list = openPhotos();
     EXPECT_EQ(logOfMove(list), Log{"hide unset"}) << "nothing was ever known";
-    PUPhotosAlbumViewController* holidays = makeAlbum(0);
-    pick(holidays, 2);
+    PUPhotosAlbumViewController* before = makeAlbum();
+    pick(before, 2);
     @autoreleasepool {
-        pick(makeAlbum(1), 3);
+        pick(makeAlbum(), 3);
     }
     EXPECT_EQ(logOfMove(list), Log{"hide unset"}) << "what came before the last one does not come back";
     for (int round = 0; round < 3; ++round) { // often at the same address
         @autoreleasepool {
-            PUPhotosAlbumViewController* album = makeAlbum(99);
+            PUPhotosAlbumViewController* album = makeAlbum();
             EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
             @autoreleasepool {
                 showOneUp([PUOneUpViewController class], 6);
