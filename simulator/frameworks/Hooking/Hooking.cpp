@@ -5,6 +5,10 @@
 
 #include <objc/runtime.h>
 
+// The runtime's own: its tables of what each class answers, which it leaves stale in subclasses when a method
+// gets another implementation.
+extern "C" void __objc_update_dispatch_table_for_class(Class cls);
+
 namespace simulator {
 namespace {
 
@@ -16,6 +20,7 @@ bool isOwnMethod(Class cls, Method method) {
 void put(Class cls, Method method, bool own, IMP replacement) {
     if (own) {
         method_setImplementation(method, replacement);
+        __objc_update_dispatch_table_for_class(cls);
         return;
     }
     const auto add = nextFunction<"class_addMethod", decltype(class_addMethod)>();

@@ -74,6 +74,12 @@ TEST_P(Hooking, replaces_a_method_and_hands_out_the_original) {
     EXPECT_EQ([object own], 11);
 }
 
+TEST_P(Hooking, replaces_a_method_for_subclasses_as_well) {
+    EXPECT_EQ([object inherited], 1);
+    hook([HookedBase class], @selector(inherited), hookedInherited, &inheritedOriginal);
+    EXPECT_EQ([object inherited], 2);
+}
+
 TEST_P(Hooking, overrides_an_inherited_method_on_the_named_class_alone) {
     hook([HookedClass class], @selector(inherited), hookedInherited, &inheritedOriginal);
     EXPECT_EQ([object inherited], 2);
