@@ -4,6 +4,8 @@
 #import "UIKit/internal/ActivityCompletion.h"
 #include "device/threads.h"
 
+#include <objc/runtime.h>
+
 // The part of the photo library that saving needs; the library is looked up by name, because a process need
 // not have it loaded.
 @protocol PhotoLibrarySaving
@@ -95,9 +97,9 @@
 }
 
 - (void)performActivity {
-    Class<PhotoLibrarySaving> request = NSClassFromString(@"PHAssetChangeRequest");
+    Class<PhotoLibrarySaving> request = objc_getClass("PHAssetChangeRequest");
     id<PhotoLibrarySaving> library =
-        [(Class<PhotoLibrarySaving>)NSClassFromString(@"PHPhotoLibrary") sharedPhotoLibrary];
+        [(Class<PhotoLibrarySaving>)objc_getClass("PHPhotoLibrary") sharedPhotoLibrary];
     if (!library || !request) return [self activityDidFinish:NO];
     // Blocks of the desk retain no objects by themselves.
     const simulator::Retained<NSArray*> images(_images);
