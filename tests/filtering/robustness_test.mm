@@ -1,0 +1,83 @@
+// Fetches in great numbers, and on many threads.
+#import "filtering/filtering_test.h"
+
+#include "support/environment.h"
+
+#include <malloc.h>
+
+#include <atomic>
+#include <thread>
+
+namespace simulator::test {
+namespace {
+
+class Robustness : public FilteringTest {
+  protected:
+    void prepare(const char* bundleIdentifier) {
+        change([](Conditions& conditions) { conditions.coreFoundationVersion = ios11; });
+        lockAlbums({"Holidays", "Videos"});
+        library().addAlbum(std::nullopt);
+        startComplete(bundleIdentifier);
+    }
+};
+
+// Everything that a picker asks, of collections that cost little to make.
+void ask(NSArray* collections) {
+    @autoreleasepool {
+        listed(collections);
+        for (id each in collections) {
+            [PHAsset fetchAssetsInAssetCollection:each options:nil];
+            [PHAsset fetchKeyAssetsInAssetCollection:each options:nil];
+        }
+        PHFetchResult* fetched = albums(static_cast<PHAssetCollectionType>(0));
+        [fetched fetchedObjects];
+        [fetched fetchedObjectIDsSet];
+    }
+}
+
+TEST_F(Robustness, nothing_grows_over_a_million_calls) {
+    prepare(host::plain);
+    NSMutableArray* cheap = [NSMutableArray array];
+    for (NSInteger type = 2; type < 5; ++type)
+        [cheap addObject:[FakeCollection collectionOfType:type
+                                                  subtype:type == 2 ? 205 : 2
+                                                    title:@"Holidays"]];
+    NSArray* everything = [[albums() fetchedObjects]
+        arrayByAddingObject:[[albums(PHAssetCollectionTypeSmartAlbum) fetchedObjects] lastObject]];
+    const int rounds = configuration() == "release" ? 100'000 : 500;
+    std::size_t before = 0;
+    for (int round = 0; round < rounds; ++round) {
+        if (round == rounds / 10) before = mallinfo2().uordblks;
+        ask(cheap);
+        if (round % 20 == 0) ask(everything);
+    }
+    EXPECT_LT(mallinfo2().uordblks, before + 65536);
+}
+
+TEST_F(Robustness, threads_fetch_while_settings_and_the_locked_list_change) {
+    prepare(host::plain);
+    NSArray* everything = [albums() fetchedObjects];
+    std::atomic<bool> isOver = false;
+    std::atomic<int> surprises = 0;
+    std::vector<std::thread> threads;
+    for (int count = 0; count < 8; ++count)
+        threads.emplace_back([&] {
+            while (!isOver)
+                @autoreleasepool {
+                    ask(everything);
+                    const NSUInteger shown = [listed(everything) count];
+                    if (shown != 5 && shown != 4) ++surprises; // with "Pets" and without it
+                }
+        });
+    for (int round = 0; round < (configuration() == "release" ? 100 : 20); ++round) {
+        lockAlbums({round % 2 == 0 ? "Holidays" : "Family"});
+        setPreferences({{"albumNamePets", round % 2 == 0}, {"hideLockedFromApps", round % 3 == 0}});
+    }
+    isOver = true;
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(surprises, 0);
+}
+
+} // namespace
+} // namespace simulator::test
