@@ -30,7 +30,8 @@ class CollectionFilter {
     void visitAlbum(PHAssetCollection album);
     void swapRegularAlbumsForCopies();
     void swapForCopy(PHAssetCollection album);
-    bool isLocked(NSString title);
+    void readLockedTitles();
+    bool isLocked(NSString title) const { return title && lockedTitles_->containsObject(title); }
     void remove(NSObject collection) { removed_->addObject(collection); }
 
     bool isPhotos_;
@@ -62,6 +63,7 @@ void CollectionFilter::visit(NSObject collection) {
 }
 
 void CollectionFilter::visitSmartAlbum(PHAssetCollection album) {
+    readLockedTitles();
     const PHAssetCollectionSubtype subtype = album.assetCollectionSubtype();
     if (subtype == PHAssetCollectionSubtype::allHidden) {
         if (!isPhotos_ || !settings::showHidden) remove(album);
@@ -75,6 +77,7 @@ void CollectionFilter::visitSmartAlbum(PHAssetCollection album) {
 void CollectionFilter::visitAlbum(PHAssetCollection album) {
     if (kCFCoreFoundationVersionNumber < coreFoundationVersion::ios11) return;
     if (!isPhotos_) swapRegularAlbumsForCopies();
+    readLockedTitles();
     if (!album.respondsTo<"title">()) return;
     const NSString title = album.title();
     const bool isLockedAway = settings::hideLockedFromApps && !isPhotos_ && isLocked(title);
@@ -108,14 +111,14 @@ void CollectionFilter::swapForCopy(PHAssetCollection album) {
     copies_->addObject(PHAssetCollection::transientAssetCollection(assets.get(), title));
 }
 
-bool CollectionFilter::isLocked(NSString title) {
-    if (!hasReadLocked_) {
-        hasReadLocked_ = true;
-        const Owner<NSMutableArray> titles = lockedAlbums::reread();
-        for (NSObject locked : each<NSObject>(titles.get()))
-            lockedTitles_->addObject(locked);
-    }
-    return title && lockedTitles_->containsObject(title);
+// In Photos, too, which hides no locked album here: its album list goes by the copy in memory, and that is of
+// the last reading.
+void CollectionFilter::readLockedTitles() {
+    if (hasReadLocked_) return;
+    hasReadLocked_ = true;
+    const Owner<NSMutableArray> titles = lockedAlbums::reread();
+    for (NSObject locked : each<NSObject>(titles.get()))
+        lockedTitles_->addObject(locked);
 }
 
 // The copies come first, the last one fetched at the front.
@@ -132,7 +135,7 @@ Owner<NSMutableArray> CollectionFilter::resultFrom(NSArray original) const {
 
 NSArray collections(NSObject self, SEL command) {
     const NSArray listed = original<collections>(self, command);
-    if (!settings::enabled) return listed;
+    if (!settings::enabled || !listed) return listed;
 
     CollectionFilter filter;
     for (NSObject collection : each<NSObject>(original<collections>(self, command)))

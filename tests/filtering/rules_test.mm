@@ -42,6 +42,23 @@ TEST_P(SmartAlbums, follow_their_own_switch_and_label) {
 
 INSTANTIATE_TEST_SUITE_P(Hosts, SmartAlbums, testing::Values(host::photos, host::settings, host::plain));
 
+using MemorisedTitles = FilteringTest;
+
+TEST_F(MemorisedTitles, are_those_that_the_last_list_read) {
+    openAlbumList({{"passOption", 1}});
+    for (NSArray* listing :
+         { @[ [albums(PHAssetCollectionTypeSmartAlbum) firstObject] ], @[ album(@"Pets") ] }) {
+        lockAlbums({"Family"});
+        kCFCoreFoundationVersionNumber = ios11;
+        listed(listing);
+        photos::tapAlbum("Family");
+        EXPECT_TRUE(isAskedForPassword());
+        goBack();
+        lockAlbums({});
+        reload();
+    }
+}
+
 struct AlbumRow {
     const char* bundleIdentifier;
     double version;

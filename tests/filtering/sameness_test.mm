@@ -18,7 +18,7 @@ constexpr double versions[] = {847.24, 1349.56, 1442.99, ios11, ios11, 1443.01, 
 const std::vector<std::optional<std::string>> titles = {
     "Holidays", "Family", "Videos", "Selfies", "", std::nullopt, "Tom's \"best\" \U0001F389", "albumName"};
 
-int rounds() { return configuration() == "release" ? 150 : 10; }
+int rounds() { return configuration() == "release" ? 80 : 10; }
 
 // A number says which of the listed it is, a title with photos that it is a copy.
 std::vector<std::string> describe(NSArray* answer, NSArray* listed) {
