@@ -129,6 +129,7 @@ void Image::registerUnwindFrames() {
 
 std::vector<LoadedSegment> Image::segments() const {
     std::vector<LoadedSegment> result;
+    result.reserve(file_.segments.size());
     for (const Segment& segment : file_.segments)
         result.push_back(
             {segment.name, reinterpret_cast<std::uintptr_t>(at(segment.address)), segment.memorySize});
@@ -141,7 +142,7 @@ std::size_t Image::runInitialisers() const {
     for (const Range& list : file_.initialisers)
         for (std::uint64_t offset = 0; offset < list.size; offset += sizeof(Initialiser)) {
             Initialiser initialise = nullptr;
-            std::memcpy(&initialise, at(list.address + offset), sizeof initialise);
+            std::memcpy(static_cast<void*>(&initialise), at(list.address + offset), sizeof initialise);
             initialise(0, nullptr, nullptr, nullptr, nullptr);
             ++count;
         }

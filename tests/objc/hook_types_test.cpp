@@ -45,7 +45,7 @@ TEST(HookTypes, every_replacement_has_a_function_and_a_slot_of_its_own) {
         functions.insert(row.function.implementation());
         if (!row.function.slot) continue;
         ++replacements;
-        slots.insert(row.function.slot);
+        slots.insert(static_cast<const void*>(row.function.slot));
     }
     EXPECT_EQ(slots.size(), replacements);
     EXPECT_EQ(functions.size(), hookTable().size());

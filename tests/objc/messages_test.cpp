@@ -108,6 +108,7 @@ TEST_F(Messages, share_one_constant_string_among_all_threads) {
     std::atomic<bool> go{false};
     std::vector<id> seen(8);
     std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (id& mine : seen)
         threads.emplace_back([&] {
             const AutoreleasePool pool;

@@ -14,7 +14,7 @@ namespace simulator {
 // installed while the simulator is being loaded, when its own references to selectors are not ready yet.
 template <class Function>
 Function* replaceMethod(const char* className, char kind, const char* selector, Function* replacement) {
-    Class cls = static_cast<Class>(objc_lookUpClass(className));
+    Class cls = objc_lookUpClass(className);
     if (kind == '+') cls = object_getClass(reinterpret_cast<id>(cls));
     const auto find = nextFunction<"class_getInstanceMethod", decltype(class_getInstanceMethod)>();
     Method method = find(cls, sel_registerName(selector));

@@ -64,7 +64,8 @@ Assets assetsOf(PHAssetCollection* collection, PHFetchOptions* options) {
 
 - (instancetype)initWithAsset:(const Asset&)record {
     NSString* identifier = [[NSString alloc] initWithUTF8String:record.identifier.c_str()];
-    if ((self = [super initWithLocalIdentifier:identifier])) _record = new Asset(record);
+    self = [super initWithLocalIdentifier:identifier];
+    if (self) _record = new Asset(record);
     [identifier release];
     return self;
 }

@@ -10,7 +10,8 @@ using simulator::Change;
 @implementation PHAssetChangeRequest
 
 - (instancetype)initWithAssetIdentifier:(NSString*)identifier {
-    if ((self = [super initInsideChangeBlock])) _assetIdentifier = [identifier copy];
+    self = [super initInsideChangeBlock];
+    if (self) _assetIdentifier = [identifier copy];
     return self;
 }
 

@@ -6,7 +6,8 @@ using simulator::Identifiers;
 @implementation PHAssetCollectionChangeRequest
 
 - (instancetype)initWithCollectionIdentifier:(NSString*)identifier {
-    if ((self = [super initInsideChangeBlock])) _collectionIdentifier = [identifier copy];
+    self = [super initInsideChangeBlock];
+    if (self) _collectionIdentifier = [identifier copy];
     return self;
 }
 

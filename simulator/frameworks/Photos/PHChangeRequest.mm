@@ -48,7 +48,8 @@ Identifiers identifiersOfObjects(id<NSFastEnumeration> objects) {
         [self release];
         raiseOutsideChangeBlock();
     }
-    if ((self = [super init])) _change = scope->number();
+    self = [super init];
+    if (self) _change = scope->number();
     return self;
 }
 

@@ -28,7 +28,8 @@ using simulator::withLibrary;
 
 - (instancetype)initWithCollection:(const Collection&)record {
     NSString* identifier = [[NSString alloc] initWithUTF8String:record.identifier.c_str()];
-    if ((self = [super initWithLocalIdentifier:identifier])) _record = new Collection(record);
+    self = [super initWithLocalIdentifier:identifier];
+    if (self) _record = new Collection(record);
     [identifier release];
     return self;
 }

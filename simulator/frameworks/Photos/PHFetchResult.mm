@@ -152,7 +152,8 @@ std::size_t limited(std::size_t count, PHFetchOptions* options) {
 @implementation PHFetchResult
 
 - (instancetype)initWithCount:(std::size_t)count make:(FetchedObjects::Make)make {
-    if ((self = [super init])) _objects = new FetchedObjects(count, std::move(make));
+    self = [super init];
+    if (self) _objects = new FetchedObjects(count, std::move(make));
     return self;
 }
 

@@ -3,7 +3,8 @@
 @implementation PHObject
 
 - (instancetype)initWithLocalIdentifier:(NSString*)identifier {
-    if ((self = [super init])) _localIdentifier = [identifier copy];
+    self = [super init];
+    if (self) _localIdentifier = [identifier copy];
     return self;
 }
 

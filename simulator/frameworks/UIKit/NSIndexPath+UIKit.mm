@@ -12,15 +12,15 @@
 }
 
 - (NSInteger)section {
-    return [self indexAtPosition:0];
+    return static_cast<NSInteger>([self indexAtPosition:0]);
 }
 
 - (NSInteger)row {
-    return [self indexAtPosition:1];
+    return static_cast<NSInteger>([self indexAtPosition:1]);
 }
 
 - (NSInteger)item {
-    return [self indexAtPosition:1];
+    return static_cast<NSInteger>([self indexAtPosition:1]);
 }
 
 @end

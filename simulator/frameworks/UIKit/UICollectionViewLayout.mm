@@ -113,7 +113,8 @@
 - (CGRect)frameForItemAtIndexPath:(NSIndexPath*)path {
     const NSInteger perLine = [self itemsInLine];
     const auto column = static_cast<CGFloat>([path item] % perLine);
-    const auto line = static_cast<CGFloat>([path item] / perLine);
+    const NSInteger fullLines = [path item] / perLine;
+    const auto line = static_cast<CGFloat>(fullLines);
     // The room that a full line leaves goes between its items.
     const CGFloat spare = [self lineWidth] - static_cast<CGFloat>(perLine) * _itemSize.width;
     const CGFloat spacing = perLine > 1 ? spare / static_cast<CGFloat>(perLine - 1) : 0;

@@ -24,7 +24,7 @@
     const simulator::OwnedBlock<void (^)(BOOL)> finish(completion);
     simulator::clock().after(duration + delay, [finish, deafViews] {
         simulator::endAnimation(deafViews);
-        finish(BOOL(YES));
+        finish(YES);
     });
 }
 

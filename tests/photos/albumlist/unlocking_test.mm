@@ -10,10 +10,8 @@
 namespace simulator::test {
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 enum class Action { open, deleteAlbum, removeLock };
 

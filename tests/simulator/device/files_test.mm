@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Damage{"empty", ""}, Damage{"truncated", xmlStart + "<array><string>a</str"},
                     Damage{"unclosed", xmlStart + "<array><string>a</string>"},
                     Damage{"string", xmlStart + "<string>text</string></plist>"},
-                    Damage{"bytes", std::string("\0\xff\xfe\x01\x80garbage\0", 14)},
+                    Damage{"bytes", std::string("\0\xff\xfe\x01\x80garbage\0", 13)},
                     Damage{"binary_header", "bplist00"},
                     Damage{"binary_garbage", std::string("bplist00\xff\xff\xff\xff\0\x01", 14)},
                     Damage{"binary_offsets", std::string("bplist00\xd1\x01\x02") + std::string(40, '\xff')},

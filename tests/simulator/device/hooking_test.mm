@@ -185,9 +185,9 @@ TEST_F(DeviceTest, installations_are_logged_in_order) {
     ASSERT_EQ(log.size(), 3u);
     EXPECT_EQ(log[0].encoding.substr(0, 1), "i");
     EXPECT_EQ(log[0], (Installation{Installation::Kind::replaced, "HookedClass", '-', "own", log[0].encoding,
-                                    implementation, &ownOriginal, true}));
-    EXPECT_EQ(log[1],
-              (Installation{Installation::Kind::replaced, "", '-', "own", "", implementation, &slot, false}));
+                                    implementation, static_cast<const void*>(&ownOriginal), true}));
+    EXPECT_EQ(log[1], (Installation{Installation::Kind::replaced, "", '-', "own", "", implementation,
+                                    static_cast<const void*>(&slot), false}));
     EXPECT_EQ(log[2], (Installation{Installation::Kind::added, "HookedClass", '-', "addedWhileLoading",
                                     "i@:", implementation, nullptr, true}));
 }

@@ -44,7 +44,7 @@ bool hasItsOwn(Class cls, SEL selector) {
     Method* methods = class_copyMethodList(cls, &count);
     const bool found = std::any_of(methods, methods + count,
                                    [&](Method each) { return sel_isEqual(method_getName(each), selector); });
-    free(methods);
+    free(static_cast<void*>(methods));
     return found;
 }
 

@@ -13,7 +13,6 @@ namespace simulator {
 namespace {
 
 using test::TestLibrary;
-using testing::AllOf;
 using testing::HasSubstr;
 
 /// A file that lasts as long as the test.

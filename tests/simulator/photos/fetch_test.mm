@@ -435,6 +435,7 @@ TEST_F(FetchTest, PropertyNamesThatThePlatformLacksAreLackingHere) {
 TEST_F(FetchTest, SeveralThreadsReadOneResult) {
     PHFetchResult* result = [PHAsset fetchAssetsWithOptions:nil];
     std::vector<std::thread> threads;
+    threads.reserve(4);
     std::atomic<int> seen = 0;
     for (int thread = 0; thread < 4; ++thread)
         threads.emplace_back([&] {
