@@ -1,0 +1,139 @@
+// The sheet that asks for an album and the alert that creates one, in the Camera and after a share sheet's
+// save.
+#include "capture/capture_test.h"
+
+namespace simulator::test {
+namespace {
+
+// In the Camera, or else in an application with a share sheet.
+class Chooser : public CaptureTest, public testing::WithParamInterface<bool> {
+  protected:
+    const bool isCamera = GetParam();
+    id owner = nil; // of the methods
+
+    void openHost(const json& preferences = json::object()) {
+        isCamera ? openCamera({}, preferences) : open(host::plain, preferences);
+        owner = isCamera ? static_cast<id>(bar()) : [[[UISaveToCameraRollActivity alloc] init] autorelease];
+    }
+    json alert() { return viewTreeAsJson().at("alert"); }
+    // What the chooser offers; it closes again.
+    std::string offered() {
+        [owner chooseAlbum];
+        std::string titles;
+        for (UIAlertAction* action in [frontAlert() actions]) {
+            const bool isCancel = [[action title] isEqualToString:@"Cancel"];
+            EXPECT_EQ([action style], isCancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault);
+            titles += text([action title]) + "|";
+        }
+        tapAlertAction("Cancel");
+        return titles;
+    }
+};
+
+TEST_P(Chooser, offers_every_regular_album_in_order_and_afresh_each_time) {
+    lockAlbums({"Work"});
+    openHost({{"showLockedinCamera", false}, {"showLockedinSaveActivity", false}, {"albumNamePets", false}});
+    EXPECT_EQ(offered(), "Camera Roll|Holidays|Family|Work|Pets|Cancel|- Create new album -|");
+    for (const char* title : {"Holidays", "Family", "Work", "Pets"})
+        deleteAlbum(title);
+    EXPECT_EQ(offered(), "Camera Roll|Cancel|- Create new album -|");
+    library().addAlbum("Only");
+    EXPECT_EQ(offered(), "Camera Roll|Only|Cancel|- Create new album -|");
+    library().addAlbum(std::nullopt);
+    library().addAlbum(cameraRoll);
+    library().addAlbum("Only");
+    EXPECT_EQ(offered(), "Camera Roll|Only|Camera Roll|Only|Cancel|- Create new album -|");
+}
+
+std::vector<std::tuple<id, bool, bool>> presentations; // by whom, animated, with a completion
+void (*originalPresent)(id, SEL, id, BOOL, id);
+void recordPresentation(id self, SEL command, id controller, BOOL animated, id completion) {
+    presentations.emplace_back(self, animated != NO, completion != nil);
+    originalPresent(self, command, controller, animated, completion);
+}
+
+TEST_P(Chooser, and_the_alert_for_a_new_album_say_what_they_are_for) {
+    openHost();
+    UIWindow* window = [[UIApplication sharedApplication] keyWindow];
+    UIViewController* presenter = [window rootViewController];
+    if (isCamera)
+        [window setRootViewController:[[[UINavigationController alloc] initWithRootViewController:presenter]
+                                          autorelease]];
+    layOutScreen();
+    replaceMethod("UIViewController", @selector(presentViewController:animated:completion:),
+                  &recordPresentation, &originalPresent);
+    [owner chooseAlbum];
+    json sheet = alert();
+    sheet.erase("actions");
+    EXPECT_EQ(sheet, json({{"title", "Choose Album"},
+                           {"message", "Choose the album to save the photo to."},
+                           {"style", "actionSheet"},
+                           {"textFields", json::array()},
+                           {"anchor", nullptr}}));
+    tapAlertAction("- Create new album -");
+    const json field = {{"text", ""}, {"placeholder", ""}, {"secure", false}};
+    const json ok = {{"title", "OK"}, {"style", "default"}, {"enabled", true}};
+    const std::pair<const char*, json> parts[] = {{"title", "Enter new album title"},
+                                                  {"message", ""},
+                                                  {"style", "alert"},
+                                                  {"actions", json::array({ok})},
+                                                  {"textFields", json::array({field})}};
+    for (const auto& [part, expected] : parts)
+        EXPECT_EQ(alert().at(part), expected) << part;
+    EXPECT_TRUE(presentations == decltype(presentations)(2, {presenter, true, false}));
+}
+
+TEST_P(Chooser, points_at_the_button_or_the_whole_view_on_a_pad) {
+    change([](Conditions& conditions) { conditions.idiom = Idiom::pad; });
+    openHost();
+    [owner chooseAlbum];
+    const json button = {{"class", "UIImageView"}, {"tag", 77}, {"rect", {0, 0, 28, 28}}};
+    const json view = {{"class", "UIView"}, {"tag", 0}, {"rect", {0, 0, 375, 667}}};
+    EXPECT_EQ(alert().at("anchor"), isCamera ? button : view);
+    createAlbum("Garden");
+}
+
+INSTANTIATE_TEST_SUITE_P(Copies, Chooser, testing::Bool(),
+                         [](const auto& info) { return info.param ? "Camera" : "ShareSheet"; });
+
+TEST_F(CaptureTest, the_cameras_choice_shows_under_the_button_and_is_written_every_time) {
+    openCamera("Family");
+    RequestRecorder* recorder = recordRequests();
+    std::vector<json> expected;
+    const auto expectChoice = [&](const std::string& title) {
+        EXPECT_EQ(labelMeasuredIn({380, 20}), title);
+        expected.push_back({{"id", "com.apple.camera"},
+                            {"array", {title}},
+                            {"path", "/private/var/mobile/Library/rollkeeper/album.tct"}});
+    };
+    for (const char* title : {"Pets", "Holidays", "Holidays", cameraRoll}) {
+        choose(title);
+        expectChoice(title);
+    }
+    reloadPreferences({{"rememberDefault", false}});
+    for (const char* title : {"Garden", " ", cameraRoll, longTitle, "%@ \"it's\" \\", "Pets"}) {
+        tap(albumImage());
+        createAlbum(title);
+        expectChoice(title);
+    }
+    choose("Cancel");
+    tap(albumImage());
+    createAlbum("");
+    EXPECT_EQ(labelMeasuredIn({380, 20}), "Pets");
+    finishChanges();
+    change([](Conditions& conditions) { conditions.faults.refuseLibraryChanges = true; });
+    tap(albumImage());
+    createAlbum("Refused");
+    expectChoice("Refused");
+    waitForRequests(recorder, expected.size());
+    EXPECT_EQ(recorder->requests, expected);
+    EXPECT_EQ(library().collections(CollectionKind::album).size(), 10U) << "each new title was created";
+    capture(camera::failCapture);
+    expect({"Refused", true, {}, {}});
+    change([](Conditions& conditions) { conditions.faults.refuseLibraryChanges = false; });
+    capture(camera::failCapture);
+    expect({"Refused", true, {9}, {9}});
+}
+
+} // namespace
+} // namespace simulator::test
