@@ -18,6 +18,10 @@ std::vector<std::string> split(const std::string& line) {
     return cells;
 }
 
+std::runtime_error notARow(const std::string& fileName, const std::string& line) {
+    return std::runtime_error(fileName + ": not a row: " + line);
+}
+
 } // namespace
 
 std::vector<TableRow> readTable(const std::string& fileName) {
@@ -32,7 +36,7 @@ std::vector<TableRow> readTable(const std::string& fileName) {
             columns = cells;
             continue;
         }
-        if (cells.size() != columns.size()) throw std::runtime_error(fileName + ": not a row: " + line);
+        if (cells.size() != columns.size()) throw notARow(fileName, line);
         TableRow& row = rows.emplace_back();
         for (std::size_t index = 0; index < cells.size(); ++index)
             row[columns[index]] = cells[index];
