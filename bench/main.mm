@@ -44,6 +44,7 @@ constexpr Scenario scenarios[] = {
     {"album-cell", measureAlbumCell},
     {"album-cell-growth", measureAlbumCellGrowth},
     {"collections", measureCollections},
+    {"literal-collections", measureLiteralCollections},
     {"album-fetch", measureAlbumFetch},
 };
 

@@ -20,6 +20,7 @@ PHOTOS = "com.apple.mobileslideshow"
 DYLIB_LIMIT = 128 * 1024  # bytes
 GROWTH_LIMIT = 1.1  # times the growth of the library
 LIBRARY_SIZES = (10, 100, 1000, 5000)  # albums
+LITERAL_SIZES = (10, 100)  # of more, the literal algorithm takes minutes
 LOADS = 11
 SETTINGS = pathlib.Path(__file__).parents[1] / "tests" / "data" / "settings.tsv"
 
@@ -171,6 +172,20 @@ def measure_collections(bench):
                   growth["instructions"] <= GROWTH_LIMIT)
 
 
+def measure_literal_collections(bench):
+    for albums in LITERAL_SIZES:
+        arguments = ["literal-collections", *bench.device(albums, "11.4"), *bench.library]
+        literal = {"seconds": bench.native(*arguments)["collections"],
+                   "instructions": bench.instructions(*arguments)["collections"]}
+        figures = bench.results["collections"][albums]
+        figures["literal"] = literal
+        bench.row(f"collections, {albums:,} albums: literal, library",
+                  f"{literal['instructions']:,} : {figures['instructions']:,} instructions "
+                  f"= {literal['instructions'] / figures['instructions']:.1f}")
+        bench.row("  the same in time", f"{literal['seconds'] * 1e3:,.2f} : {figures['collections'] * 1e3:,.2f} ms "
+                  f"= {literal['seconds'] / figures['collections']:.1f}")
+
+
 def measure_album_fetch(bench):
     device = bench.device(10, "11.4")
     stock = bench.instructions("album-fetch", *device)["fetch"]
@@ -194,6 +209,7 @@ def main():
         measure_album_fetch(bench)
         measure_album_cell(bench, options.configurations)
         measure_collections(bench)
+        measure_literal_collections(bench)
     except (OSError, RuntimeError) as error:
         print(f"bench: {error}", file=sys.stderr)
         return 2

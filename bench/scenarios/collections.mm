@@ -2,7 +2,9 @@
 #include "measuring.h"
 #include "scenarios/scenarios.h"
 
+#import "CoreFoundation/CoreFoundation.h"
 #import "Photos/Photos.h"
+#import "filtering/literal_collections.h"
 
 #include <stdexcept>
 
@@ -39,6 +41,24 @@ void measureCollections(const Options& options) {
     report("memory", peakMemory() - before);
     report("albums", count);
     measure("collections", ask);
+}
+
+void measureLiteralCollections(const Options& options) {
+    const simulator::Host host(plainHost(options));
+    NSArray* albums = [allAlbums() fetchedObjects];
+    const simulator::test::LiteralWorld world {
+        @"com.example.plain", kCFCoreFoundationVersionNumber, @{}, @{}
+    };
+    measure("collections", [&] {
+        @autoreleasepool {
+            NSArray* found = simulator::test::literalCollections(
+                ^{
+                    return albums;
+                },
+                world);
+            if ([found count] == 0) throw std::runtime_error("the list is empty");
+        }
+    });
 }
 
 void measureAlbumFetch(const Options& options) {

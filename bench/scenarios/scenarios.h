@@ -47,6 +47,9 @@ void measureAlbumCellGrowth(const Options& options);
 // --device FOLDER [--library FILE]: figures "collections", and "memory" at its peak (KiB).
 void measureCollections(const Options& options);
 
+// --device FOLDER --library FILE: figure "collections", of the same list by the literal algorithm.
+void measureLiteralCollections(const Options& options);
+
 // --device FOLDER [--library FILE]: figure "fetch", the photos of one album.
 void measureAlbumFetch(const Options& options);
 
