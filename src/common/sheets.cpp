@@ -41,11 +41,16 @@ void Alert::point(UIView view, CGRect rect) const {
     popover.setSourceRect(rect);
 }
 
+// A sheet that points at no view raises on a pad.
+bool Alert::needsAnchor() const { return style_ == UIAlertControllerStyle::actionSheet && isPad(); }
+
+void Alert::present(UIViewController presenter) const {
+    present(presenter, needsAnchor() ? presenter.view() : UIView());
+}
+
 void Alert::present(UIViewController presenter, UIView anchor) const {
     if (!controller_) return;
-    // A sheet that points at no view raises on a pad.
-    if (style_ == UIAlertControllerStyle::actionSheet && isPad())
-        point(anchor ? anchor : presenter.view(), anchor.bounds());
+    if (needsAnchor()) point(anchor ? anchor : presenter.view(), anchor.bounds());
     presenter.present(controller_, true, Block());
 }
 

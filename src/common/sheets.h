@@ -27,9 +27,10 @@ class Alert {
     // Elsewhere the anchor is not looked at.
     void present(UIViewController presenter, UIView anchor) const;
     // The same with the presenter's view for an anchor.
-    void present(UIViewController presenter) const { present(presenter, presenter.view()); }
+    void present(UIViewController presenter) const;
 
   private:
+    bool needsAnchor() const;
     void addAction(NSString title, UIAlertActionStyle style, Block handler);
     void point(UIView view, CGRect rect) const;
 
