@@ -39,14 +39,13 @@ TEST_F(CameraButton, is_an_image_that_opens_the_chooser_over_a_small_white_label
     EXPECT_TRUE([recognizer delegate] == bar());
 
     UILabel* label = albumLabel();
-    ASSERT_TRUE([label isMemberOfClass:[UILabel class]]);
     EXPECT_EQ(labelMeasuredIn({380, 20}), cameraRoll);
     EXPECT_TRUE([[label font] isEqual:[UIFont systemFontOfSize:12]]);
     EXPECT_TRUE([[label textColor] isEqual:[UIColor whiteColor]]);
     EXPECT_TRUE([[label backgroundColor] isEqual:[UIColor clearColor]]);
     EXPECT_EQ([label textAlignment], NSTextAlignmentCenter);
-    EXPECT_TRUE([label numberOfLines] == 1 &&
-                [label baselineAdjustment] == UIBaselineAdjustmentAlignBaselines);
+    EXPECT_EQ([label numberOfLines], 1);
+    EXPECT_EQ([label baselineAdjustment], UIBaselineAdjustmentAlignBaselines);
     EXPECT_TRUE([label adjustsFontSizeToFitWidth] && [label adjustsLetterSpacingToFitWidth]);
     EXPECT_EQ([label minimumScaleFactor], static_cast<double>(0.8333333F)) << "single precision, widened";
     EXPECT_TRUE([label clipsToBounds]);
