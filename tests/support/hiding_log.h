@@ -13,9 +13,9 @@ namespace simulator::test {
 // the host started; main thread.
 void keepHidingLog(PhotoLibrary& library);
 
-// The entries since the last call: "hide 0 2" or "show 1", "show nothing" for an empty array and "show unset"
-// for none, each with " and tell" when it has a completion; "change" for any other change of the library, and
-// "present" for a controller that a grid of photos or a list of albums presents.
+// The entries since the last call, once all changes are made: "hide 0 2" or "show 1", "show nothing" for an
+// empty array, "show unset" for none, each with " and tell" when it has a completion; "change" for any other
+// change, "present" for what a grid of photos or a list of albums presents.
 std::vector<std::string> takeHidingLog();
 
 } // namespace simulator::test

@@ -67,6 +67,12 @@ void keepHidingLog(PhotoLibrary& library) {
         replace(screen, @selector(presentViewController:animated:completion:), &logPresent, &originalPresent);
 }
 
-std::vector<std::string> takeHidingLog() { return std::exchange(entries, {}); }
+std::vector<std::string> takeHidingLog() {
+    [[PHPhotoLibrary sharedPhotoLibrary]
+        performChangesAndWait:^{
+        }
+                        error:nullptr]; // after all others
+    return std::exchange(entries, {});
+}
 
 } // namespace simulator::test

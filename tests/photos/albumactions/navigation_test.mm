@@ -105,7 +105,7 @@ TEST_F(Navigation, button_sends_the_controller_its_message) {
     EXPECT_TRUE([button target] == navigation() && sel_isEqual([button action], @selector(syncAlbums)));
     [navigation() syncAlbums];
     EXPECT_TRUE(frontAlert() == nil);
-    [[[[PUNavigationController alloc] init] autorelease] navigationBar]; // has no item
+    [[[[PUNavigationController alloc] init] autorelease] navigationBar]; // no item
 }
 
 #pragma mark The button's sheets
@@ -136,7 +136,6 @@ TEST_F(Navigation, button_asks_what_suits_the_screen) {
                           "Copy to camera roll 0", "Move out of camera roll 0", "Cancel 1"}));
         tapAlertAction(choice);
         EXPECT_EQ(takeHidingLog(), expected);
-        settle();
     }
     photos::openMoments();
     tapBarButton("Move");

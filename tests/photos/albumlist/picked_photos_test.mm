@@ -90,7 +90,6 @@ TEST_F(PickedPhotos, are_hidden_where_they_were_picked) {
         [list reloadCameraRollWithMove:NO];
         EXPECT_EQ(takeHidingLog(), Log()) << "a copy hides nothing";
         EXPECT_EQ(logOfMove(list), each.expected);
-        settle();
         for (std::size_t number = 0; number < 10; ++number)
             library().setHidden(identifier(number), false);
     }
@@ -128,7 +127,6 @@ TEST_F(PickedPhotos, of_controllers_that_have_gone_are_not_touched) {
             EXPECT_EQ(logOfMove(list), Log{"hide 8"});
         }
         EXPECT_EQ(logOfMove(list), Log{"hide unset"});
-        settle();
         for (const std::size_t number : {4, 6, 8})
             library().setHidden(identifier(number), false);
     }
