@@ -34,14 +34,7 @@ using AnyMethod = std::uintptr_t (*)(id, SEL, std::uintptr_t, std::uintptr_t, st
                                      double);
 using Arguments = std::array<std::uintptr_t, 4>;
 
-struct Call {
-    id receiver;
-    std::string selector;
-    Arguments arguments;
-    double number;
-
-    bool operator==(const Call&) const = default;
-};
+using Call = std::tuple<id, std::string, Arguments, double>;
 
 std::vector<Call> stockCalls;
 std::uintptr_t stockAnswer;
@@ -100,22 +93,23 @@ Arguments argumentsFor(const TableRow& row, const MethodOf& called) {
 // Whether the call was handed on once, as it came, and its answer handed back.
 bool passesThrough(const TableRow& row, std::uintptr_t answer) {
     const MethodOf called(row);
-    const Call made{anybody(), row.at("selector"), argumentsFor(row, called), called.takesNumber ? 3.0 : 0};
+    const id receiver = anybody();
+    const Arguments given = argumentsFor(row, called);
+    const double number = called.takesNumber ? 3 : 0;
     stockCalls.clear();
     stockAnswer = answer;
-    const Arguments& given = made.arguments;
     const auto call = reinterpret_cast<AnyMethod>(method_getImplementation(called.method));
     const std::uintptr_t result =
-        call(made.receiver, called.selector, given[0], given[1], given[2], given[3], made.number);
+        call(receiver, called.selector, given[0], given[1], given[2], given[3], number);
     // Registers that carry no argument hold anything.
-    for (Call& each : stockCalls) {
-        std::copy(given.begin() + called.arguments.size(), given.end(),
-                  each.arguments.begin() + called.arguments.size());
-        if (!called.takesNumber) each.number = made.number;
+    for (auto& [stockReceiver, selector, arguments, stockNumber] : stockCalls) {
+        for (std::size_t index = called.arguments.size(); index < given.size(); ++index)
+            arguments[index] = given[index];
+        if (!called.takesNumber) stockNumber = number;
     }
     const bool isAnswered =
         called.answer == 'v' || (called.answer == '@' ? result == answer : (result & 0xFF) == answer);
-    return isAnswered && stockCalls == std::vector{made};
+    return isAnswered && stockCalls == std::vector{Call{receiver, row.at("selector"), given, number}};
 }
 
 class Matrix : public FilteringTest, public testing::WithParamInterface<std::pair<const char*, const char*>> {

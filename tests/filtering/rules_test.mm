@@ -19,7 +19,7 @@ class SmartAlbums : public FilteringTest, public testing::WithParamInterface<con
             const bool isOn = bits & 1, isLocked = bits & 2, hidesLocked = bits & 4;
             lockAlbums({isLocked ? label : "Other"});
             setPreferences({{key, isOn}, {"hideLockedFromApps", hidesLocked}});
-            const bool mayShow = GetParam() == photosApp || (subtype != 205 && !(isLocked && !label.empty()));
+            const bool mayShow = GetParam() == photosApp || (subtype != 205 && (!isLocked || label.empty()));
             for (const double version : {ios11 - 0.01, ios11}) {
                 kCFCoreFoundationVersionNumber = version;
                 EXPECT_EQ([listed(@[ smartAlbum ]) count] == 1, !isGoverned || (isOn && mayShow))
