@@ -2,7 +2,7 @@
 // is looked up, then that takes over as if it had been called directly. A message to nil gives zero, whether the
 // caller looks for an integer, a pointer, a floating-point number or a structure of up to four of them.
 
-#include "device/aarch64_arguments.h"
+#include "device/aarch64_arguments.inc"
 
     .text
     .globl  objc_msgSend

@@ -65,7 +65,7 @@ lateOriginalCommon:
 
 #elif defined(__aarch64__)
 
-#include "device/aarch64_arguments.h"
+#include "device/aarch64_arguments.inc"
 
     .text
     .balign 16
