@@ -1,5 +1,5 @@
-// A host application with the library under test, in the test's process: what Photos' album list shows and what
-// a user does there, and what becomes of the photos.
+// A host application with the library under test, in the test's process: what Photos' album list shows and
+// what a user does there, and what becomes of the photos.
 #pragma once
 
 #include "support/library_test.h"
