@@ -29,7 +29,7 @@ void reload() {
 
 void measureAlbumCell(const Options& options) {
     const auto locked = simulator::Device::open(options.text("device")).readPropertyList(lockedAlbums);
-    const simulator::Host host({.bundleIdentifier = photosApplication,
+    const simulator::Host host({.bundleIdentifier = simulator::bundle::photos,
                                 .device = options.text("device"),
                                 .library = options.library()});
     PUAlbumListViewController* list = photos::openAlbumList();
@@ -48,7 +48,7 @@ void measureAlbumCell(const Options& options) {
 void measureAlbumCellGrowth(const Options& options) {
     const std::size_t wanted = options.number("configurations");
     simulator::startCountingObjects();
-    const simulator::Host host({.bundleIdentifier = photosApplication,
+    const simulator::Host host({.bundleIdentifier = simulator::bundle::photos,
                                 .device = options.text("device"),
                                 .library = options.library()});
     PUAlbumListViewController* list = photos::openAlbumList();

@@ -12,8 +12,9 @@ namespace bench {
 namespace {
 
 simulator::HostOptions plainHost(const Options& options) {
-    return {
-        .bundleIdentifier = plainApplication, .device = options.text("device"), .library = options.library()};
+    return {.bundleIdentifier = simulator::bundle::plain,
+            .device = options.text("device"),
+            .library = options.library()};
 }
 
 PHFetchResult* allAlbums() {
@@ -47,7 +48,7 @@ void measureLiteralCollections(const Options& options) {
     const simulator::Host host(plainHost(options));
     NSArray* albums = [allAlbums() fetchedObjects];
     const simulator::test::LiteralWorld world {
-        @"com.example.plain", kCFCoreFoundationVersionNumber, @{}, @{}
+        @(simulator::bundle::plain), kCFCoreFoundationVersionNumber, @{}, @{}
     };
     measure("collections", [&] {
         @autoreleasepool {

@@ -59,7 +59,7 @@ void installByHand(const Measured& method, HandWrittenMethod hook) {
 void measurePassThrough(const Options& options) {
     const Measured& method = methodNamed(options.text("method"));
     const std::string& hook = options.text("hook");
-    const simulator::Host host({.bundleIdentifier = photosApplication,
+    const simulator::Host host({.bundleIdentifier = simulator::bundle::photos,
                                 .device = options.text("device"),
                                 .library = options.library()});
     if (hook == "plain") installByHand(method, method.plain);

@@ -2,6 +2,8 @@
 // back. All throw std::exception when something is not as they need it.
 #pragma once
 
+#include "hosts/applications/bundle_identifiers.h"
+
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -20,8 +22,6 @@ struct Options {
     std::optional<std::filesystem::path> library() const;
 };
 
-inline constexpr const char* photosApplication = "com.apple.mobileslideshow";
-inline constexpr const char* plainApplication = "com.example.plain";
 inline constexpr std::size_t photosInAlbum = 20;
 
 // --device FOLDER --albums N --locked N --release NAME: makes a device with that many albums, of which the

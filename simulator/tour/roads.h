@@ -1,6 +1,7 @@
 // The roads of the tour, in the order in which they are walked.
 #pragma once
 
+#include "hosts/applications/bundle_identifiers.h"
 #include "tour/stage.h"
 
 namespace simulator::tour {
@@ -20,16 +21,5 @@ inline constexpr Road roads[] = {
     {"What each application sees of the library", compareWhatApplicationsSee},
     {"A switch in the settings pane", changeSettingsInThePane},
 };
-
-namespace bundle {
-inline constexpr const char* springBoard = "com.apple.springboard";
-inline constexpr const char* camera = "com.apple.camera";
-inline constexpr const char* photos = "com.apple.mobileslideshow";
-inline constexpr const char* settings = "com.apple.Preferences";
-inline constexpr const char* messenger = "com.facebook.Messenger";
-inline constexpr const char* whatsApp = "net.whatsapp.WhatsApp";
-inline constexpr const char* imgur = "imgurmobile";
-inline constexpr const char* plain = "com.example.plain";
-} // namespace bundle
 
 } // namespace simulator::tour

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "device/device.h"
+#include "hosts/applications/bundle_identifiers.h"
 #include "hosts/client.h"
 #include "hosts/host.h"
 #include "photolibrary/library.h"
@@ -19,17 +20,7 @@
 
 namespace simulator::test {
 
-namespace host {
-inline constexpr const char* camera = "com.apple.camera";
-inline constexpr const char* photos = "com.apple.mobileslideshow";
-inline constexpr const char* settings = "com.apple.Preferences";
-inline constexpr const char* springBoard = "com.apple.springboard";
-inline constexpr const char* messenger = "com.facebook.Messenger";
-inline constexpr const char* whatsApp = "net.whatsapp.WhatsApp";
-inline constexpr const char* imgur = "imgurmobile";
-inline constexpr const char* jolly = "com.apple.store.Jolly";
-inline constexpr const char* plain = "com.example.plain";
-} // namespace host
+namespace host = bundle;
 
 namespace file {
 inline constexpr const char* preferences = "/var/mobile/Library/Preferences/com.nrv.rollkeeperprefs.plist";

@@ -3,6 +3,7 @@
 #import "UIKit/UIKit.h"
 
 #include "device/releases.h"
+#include "hosts/applications/bundle_identifiers.h"
 #include "hosts/applications/camera/camera_app.h"
 #include "hosts/applications/messenger/messenger_app.h"
 #include "hosts/applications/photos/photos_app.h"
@@ -77,27 +78,21 @@ const struct {
 
 const std::vector<CatalogueEntry>& entries() {
     static const auto& all = *new std::vector<CatalogueEntry>{
-        {"com.apple.springboard", "SpringBoard", {"SpringBoard"}, nullptr, true},
-        {"com.apple.mobileslideshow",
+        {bundle::springBoard, "SpringBoard", {"SpringBoard"}, nullptr, true},
+        {bundle::photos,
          "PhotosApplication",
          {"MobileSlideShow", "PhotosUI", "PhotosUICore"},
          photos::addVerbs},
-        {"com.apple.camera",
-         "CAMCameraApplication",
-         {"CameraUI", "PhotosUI", "PhotosUICore"},
-         camera::addVerbs},
-        {"com.apple.Preferences",
-         "PreferencesAppController",
-         {"Preferences", "PreferencesApp"},
-         settings::addVerbs},
-        {"com.facebook.Messenger", "MessengerApplication", {"Messenger"}, messenger::addVerbs},
-        {"net.whatsapp.WhatsApp", "WhatsAppApplication", {"WhatsApp"}, pickers::addVerbs},
-        {"imgurmobile", "ImgurApplication", {"imgur"}, pickers::addVerbs},
-        {"com.example.plain",
+        {bundle::camera, "CAMCameraApplication", {"CameraUI", "PhotosUI", "PhotosUICore"}, camera::addVerbs},
+        {bundle::settings, "PreferencesAppController", {"Preferences", "PreferencesApp"}, settings::addVerbs},
+        {bundle::messenger, "MessengerApplication", {"Messenger"}, messenger::addVerbs},
+        {bundle::whatsApp, "WhatsAppApplication", {"WhatsApp"}, pickers::addVerbs},
+        {bundle::imgur, "ImgurApplication", {"imgur"}, pickers::addVerbs},
+        {bundle::plain,
          "PlainApplication",
          {"PlainApplication", "PhotosUI", "PhotosUICore"},
          plain::addVerbs},
-        {"com.apple.store.Jolly",
+        {bundle::jolly,
          "PlainApplication",
          {"PlainApplication", "PhotosUI", "PhotosUICore"},
          plain::addVerbs},

@@ -36,20 +36,17 @@ const struct {
     const char* className;
     std::set<std::string_view> applications;
 } presence[] = {
-    {"PUAlbumListViewController",
-     {"com.apple.mobileslideshow", "com.apple.camera", "com.example.plain", "com.apple.store.Jolly"}},
-    {"PUAssetHidingHelper",
-     {"com.apple.mobileslideshow", "com.apple.camera", "com.example.plain", "com.apple.store.Jolly"}},
-    {"PXUIButton",
-     {"com.apple.mobileslideshow", "com.apple.camera", "com.example.plain", "com.apple.store.Jolly"}},
-    {"PhotosApplication", {"com.apple.mobileslideshow"}},
-    {"CAMBottomBar", {"com.apple.camera"}},
-    {"CAMCaptureEngine", {"com.apple.camera"}},
+    {"PUAlbumListViewController", {bundle::photos, bundle::camera, bundle::plain, bundle::jolly}},
+    {"PUAssetHidingHelper", {bundle::photos, bundle::camera, bundle::plain, bundle::jolly}},
+    {"PXUIButton", {bundle::photos, bundle::camera, bundle::plain, bundle::jolly}},
+    {"PhotosApplication", {bundle::photos}},
+    {"CAMBottomBar", {bundle::camera}},
+    {"CAMCaptureEngine", {bundle::camera}},
     {"CustomDrawButton", {}},
-    {"SpringBoard", {"com.apple.springboard"}},
-    {"PreferencesAppController", {"com.apple.Preferences"}},
-    {"MNPhotosAlbumDataSource", {"com.facebook.Messenger"}},
-    {"MNMontageAlbumListViewController", {"com.facebook.Messenger"}},
+    {"SpringBoard", {bundle::springBoard}},
+    {"PreferencesAppController", {bundle::settings}},
+    {"MNPhotosAlbumDataSource", {bundle::messenger}},
+    {"MNMontageAlbumListViewController", {bundle::messenger}},
 };
 
 TEST_P(EveryApplication, has_no_class_of_another) {
@@ -63,7 +60,7 @@ TEST_P(EveryApplication, has_no_class_of_another) {
 // No class with a prefix of the photo, camera or preference frameworks may be forgotten in the list of
 // frameworks.
 TEST_F(HostsTest, springboard_has_no_class_of_the_frameworks_that_it_does_not_load) {
-    start("com.apple.springboard");
+    start(bundle::springBoard);
     std::vector<Class> classes(static_cast<std::size_t>(objc_getClassList(nullptr, 0)));
     objc_getClassList(classes.data(), static_cast<int>(classes.size()));
     int seen = 0;
@@ -80,8 +77,8 @@ TEST_F(HostsTest, springboard_has_no_class_of_the_frameworks_that_it_does_not_lo
 }
 
 TEST_F(HostsTest, an_application_may_be_without_a_framework_that_it_usually_has) {
-    setHasFramework("com.example.plain", "PhotosUI", false);
-    start("com.example.plain");
+    setHasFramework(bundle::plain, "PhotosUI", false);
+    start(bundle::plain);
     EXPECT_TRUE(objc_getClass("PUAssetHidingHelper") == Nil);
     EXPECT_EQ(standardExceptionOf([] { setHasFramework("no.such.application", "PhotosUI", true); }),
               "no application no.such.application is known");

@@ -10,7 +10,7 @@ namespace {
 
 class HidingHelper : public HostsTest {
   protected:
-    HidingHelper() { start("com.apple.mobileslideshow"); }
+    HidingHelper() { start(bundle::photos); }
 
     struct Outcome {
         std::atomic<bool> arrived = false;

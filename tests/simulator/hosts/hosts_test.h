@@ -3,6 +3,7 @@
 #pragma once
 
 #include "device/device.h"
+#include "hosts/applications/bundle_identifiers.h"
 #include "hosts/host.h"
 #include "photolibrary/samples.h"
 

@@ -47,7 +47,7 @@ namespace {
 
 class CameraApp : public HostsTest {
   protected:
-    CameraApp() { start("com.apple.camera"); }
+    CameraApp() { start(bundle::camera); }
 
     std::size_t photoCount() { return library().visibleAssets().size(); }
 };
@@ -63,7 +63,7 @@ class CameraReleases : public HostsTest, public testing::WithParamInterface<Rele
 
 TEST_P(CameraReleases, take_photos) {
     device().changeConditions([](Conditions& conditions) { conditions.release = GetParam(); });
-    start("com.apple.camera");
+    start(bundle::camera);
     EXPECT_EQ(objc_getClass("CAMCaptureEngine") != Nil, GetParam() >= Release::ios9_3);
     if (GetParam() != Release::ios7_1) camera::takePhoto(); // the library itself came with iOS 8
 }
@@ -147,12 +147,11 @@ TEST_P(Pickers, list_albums_without_hidden_photos) {
 
 INSTANTIATE_TEST_SUITE_P(
     Applications, Pickers,
-    testing::Values(
-        PickerCase{"com.example.plain", plain::listPicker, {"Videos", "Family", "Pets"}},
-        PickerCase{"com.apple.Preferences", settings::listWallpapers, {"Videos", "Family", "Pets"}},
-        PickerCase{"com.facebook.Messenger", messenger::listComposer, {"Videos", "Family", "Pets"}},
-        PickerCase{"net.whatsapp.WhatsApp", pickers::list, {"Videos", "Family", "Pets"}},
-        PickerCase{"imgurmobile", pickers::list, {"Family", "Pets"}}),
+    testing::Values(PickerCase{bundle::plain, plain::listPicker, {"Videos", "Family", "Pets"}},
+                    PickerCase{bundle::settings, settings::listWallpapers, {"Videos", "Family", "Pets"}},
+                    PickerCase{bundle::messenger, messenger::listComposer, {"Videos", "Family", "Pets"}},
+                    PickerCase{bundle::whatsApp, pickers::list, {"Videos", "Family", "Pets"}},
+                    PickerCase{bundle::imgur, pickers::list, {"Family", "Pets"}}),
     [](const auto& info) {
         std::string name(info.param.bundleIdentifier);
         std::ranges::replace(name, '.', '_');
@@ -160,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
     });
 
 TEST_F(HostsTest, settings_names_the_screen_that_chooses_a_wallpaper) {
-    start("com.apple.Preferences");
+    start(bundle::settings);
     settings::listWallpapers();
     UINavigationController* root =
         [[UIApplication sharedApplication] performSelector:@selector(rootController)];
@@ -168,7 +167,7 @@ TEST_F(HostsTest, settings_names_the_screen_that_chooses_a_wallpaper) {
 }
 
 TEST_F(HostsTest, messenger_previews_an_album_with_a_photo_and_opens_it) {
-    start("com.facebook.Messenger");
+    start(bundle::messenger);
     const auto row = rowTitled(messenger::listMontage(), "Holidays");
     EXPECT_EQ(row.at("preview"), photo(0).identifier);
     EXPECT_EQ(row.at("opens"), true);
@@ -176,7 +175,7 @@ TEST_F(HostsTest, messenger_previews_an_album_with_a_photo_and_opens_it) {
 }
 
 TEST_F(HostsTest, plain_application_saves_its_picture_from_the_share_sheet) {
-    start("com.example.plain");
+    start(bundle::plain);
     plain::saveImage();
     EXPECT_EQ(library().visibleAssets().size(), 11U);
 }
@@ -185,7 +184,7 @@ TEST_F(HostsTest, an_application_in_a_process_of_its_own_does_what_it_is_told) {
     std::istringstream words(emulator());
     const std::vector<std::string> command{std::istream_iterator<std::string>(words), {}};
     HostProcess photos({.program = hostProgram(),
-                        .bundleIdentifier = "com.apple.mobileslideshow",
+                        .bundleIdentifier = bundle::photos,
                         .device = device().folder(),
                         .library = std::nullopt,
                         .emulator = command});
@@ -201,7 +200,7 @@ TEST_F(HostsTest, an_application_in_a_process_of_its_own_does_what_it_is_told) {
 }
 
 TEST_F(HostsTest, verbs_do_what_a_user_does) {
-    start("com.apple.mobileslideshow");
+    start(bundle::photos);
     EXPECT_EQ(performVerb({{"do", "openAlbum"}, {"title", "Family"}}), nlohmann::json::object());
     EXPECT_EQ(performVerb({{"do", "selectPhotos"}, {"places", {0, 1}}}), nlohmann::json::object());
     EXPECT_EQ(standardExceptionOf([] { performVerb({{"do", "openAlbum"}, {"title", "Nothing"}}); }),

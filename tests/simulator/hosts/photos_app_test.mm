@@ -20,7 +20,7 @@ class PhotosApp : public HostsTest {
     void changeConditions(const std::function<void(Conditions&)>& change) {
         device().changeConditions(change);
     }
-    void startPhotos() { start("com.apple.mobileslideshow"); }
+    void startPhotos() { start(bundle::photos); }
 
     static std::string titleOf(UIViewController* controller) { return [[controller title] UTF8String]; }
     static UIViewController* top() {

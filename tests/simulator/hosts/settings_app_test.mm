@@ -53,7 +53,7 @@ class SettingsApp : public HostsTest {
   protected:
     void startSettings() {
         device().writePropertyList(entryFile, examplePane());
-        start("com.apple.Preferences");
+        start(bundle::settings);
     }
     json stored() {
         return device().exists(preferences) ? device().readPropertyList(preferences) : json::object();
@@ -122,7 +122,7 @@ TEST_F(SettingsApp, leaves_out_entries_that_do_not_fit) {
         {"cell", "PSLinkCell"}, {"label", "Gone"}, {"bundle", "Gone"}, {"isController", true}};
     device().writePropertyList("/Library/PreferenceLoader/Preferences/Gone.plist", noBundle);
     device().writeFile("/Library/PreferenceLoader/Preferences/Damaged.plist", "no property list");
-    start("com.apple.Preferences");
+    start(bundle::settings);
     const auto rows = settings::describePane(settings::pane());
     EXPECT_EQ(rows.size(), 3U) << rows.dump();
     EXPECT_EQ(standardExceptionOf([] { settings::openEntry("Gone"); }),
