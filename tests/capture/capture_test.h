@@ -5,8 +5,8 @@
 #include "device/clock.h"
 #include "hosts/applications/catalogue.h"
 #include "support/photos_test.h"
+#include "support/replacing.h"
 
-#import "Hooking/Hooking.h"
 #import "Photos/Photos.h"
 #import "hosts/applications/camera/camera_app.h"
 
@@ -26,12 +26,6 @@ using Numbers = std::vector<std::size_t>;
 
 inline constexpr const char* cameraRoll = "Camera Roll";
 inline constexpr const char* longTitle = "A title that is far too long for a label under such a small button";
-
-template <typename Function>
-void replaceMethod(const char* className, SEL selector, Function* replacement, Function** original) {
-    MSHookMessageEx(objc_getClass(className), selector, reinterpret_cast<IMP>(replacement),
-                    reinterpret_cast<IMP*>(original));
-}
 
 // What an album holds, and what is hidden at all, after a photo was put into it.
 struct Step {

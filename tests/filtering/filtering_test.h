@@ -24,7 +24,6 @@ inline constexpr double ios11 = 1443.0; // from this version on regular albums a
 
 PHFetchResult* albums(PHAssetCollectionType type = PHAssetCollectionTypeAlbum,
                       NSInteger subtype = PHAssetCollectionSubtypeAny);
-PHAssetCollection* album(NSString* title);
 NSArray* listed(NSArray* collections); // by a list that holds them
 
 class FilteringTest : public PhotosTest {

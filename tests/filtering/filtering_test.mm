@@ -63,12 +63,6 @@ PHFetchResult* albums(PHAssetCollectionType type, NSInteger subtype) {
                                                     options:nil];
 }
 
-PHAssetCollection* album(NSString* title) {
-    for (PHAssetCollection* each in albums())
-        if ([[each title] isEqualToString:title]) return each;
-    return nil;
-}
-
 NSArray* listed(NSArray* collections) {
     return [[PHCollectionList transientCollectionListWithCollections:collections title:nil] collections];
 }

@@ -44,11 +44,8 @@ TEST_P(LockedFromApps, keeps_moved_photos_of_a_locked_album_from_other_applicati
     library().setHidden(library().assets().front().identifier, true);
     lockAlbums({"Holidays"});
     startWith(host::plain);
-    PHAssetCollection* holidays =
-        [[PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
-                                                  subtype:PHAssetCollectionSubtypeAny
-                                                  options:nil] firstObject];
-    EXPECT_EQ([[PHAsset fetchAssetsInAssetCollection:holidays options:nil] count], GetParam().isOn ? 2U : 3U);
+    EXPECT_EQ([[PHAsset fetchAssetsInAssetCollection:album(@"Holidays") options:nil] count],
+              GetParam().isOn ? 2U : 3U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, LockedFromApps, casesOf("hideLockedFromApps", true));

@@ -37,12 +37,6 @@ bool listsSmartAlbum(PHAssetCollectionSubtype subtype) {
     });
 }
 
-PHAssetCollection* holidays() {
-    return [[PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
-                                                     subtype:PHAssetCollectionSubtypeAny
-                                                     options:nil] firstObject];
-}
-
 PUAlbumListViewController* albumList() {
     return static_cast<PUAlbumListViewController*>([[[photos::library()
         navigationControllerForContentMode:PUContentModeAlbums] viewControllers] firstObject]);
@@ -111,8 +105,9 @@ const std::map<std::string, bool (*)()> observers = {
     {"showTabMemories", [] { return showsTab(PUContentModeMemories); }},
     {"showTabShared", [] { return showsTab(PUContentModeShared); }},
     {"showTabAlbums", [] { return showsTab(PUContentModeAlbums); }},
-    {"layoutShowTitle", [] { return [[albumList() titleForCollection:holidays()] length] > 0; }},
-    {"layoutShowSubtitle", [] { return [[albumList() subtitleForCollection:holidays()] length] > 0; }},
+    {"layoutShowTitle", [] { return [[albumList() titleForCollection:album(@"Holidays")] length] > 0; }},
+    {"layoutShowSubtitle",
+     [] { return [[albumList() subtitleForCollection:album(@"Holidays")] length] > 0; }},
     {"removeSearch", [] { return [albumList() disallowsSearch] != NO; }},
     {"skipDelete", skipsDeleteQuestion},
     {"showLiveBadge", showsBadgeOfPlainPhoto},

@@ -63,14 +63,6 @@ class SecondHooker : public PhotosTest, public testing::WithParamInterface<std::
     const Order& neighbours() const { return std::get<1>(GetParam()); }
     bool has(Loaded loaded) const { return std::ranges::count(neighbours(), loaded) > 0; }
 
-    PHAssetCollection* albumTitled(NSString* title) {
-        PHFetchOptions* options = [[[PHFetchOptions alloc] init] autorelease];
-        [options setPredicate:[NSPredicate predicateWithFormat:@"title = %@", title]];
-        return [[PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
-                                                         subtype:PHAssetCollectionSubtypeAny
-                                                         options:options] firstObject];
-    }
-
     // Those that the last call reached.
     static Order takeNoted() { return std::exchange(noted, {}); }
 
@@ -87,7 +79,7 @@ TEST_P(SecondHooker, is_called_and_leaves_the_library_its_work) {
     [list viewWillTransitionToSize:CGSizeMake(667, 375) withTransitionCoordinator:nil];
     EXPECT_EQ(takeNoted(), neighbours());
 
-    PHAssetCollection* holidays = albumTitled(@"Holidays");
+    PHAssetCollection* holidays = album(@"Holidays");
     takeNoted();
     EXPECT_EQ([[PHAsset fetchAssetsInAssetCollection:holidays options:nil] count], 3U)
         << "the album lacks its moved photo";

@@ -1,6 +1,7 @@
 #include "support/hiding_log.h"
 
-#import "Hooking/Hooking.h"
+#include "support/replacing.h"
+
 #import "PhotosUI/PhotosUI.h"
 #import "hosts/applications/common/screen.h"
 
@@ -50,21 +51,18 @@ void logPresent(id self, SEL command, id controller, BOOL animated, id completio
     originalPresent(self, command, controller, animated, completion);
 }
 
-template <typename Function>
-void replace(const char* className, SEL selector, Function* replacement, Function** original) {
-    MSHookMessageEx(objc_getClass(className), selector, reinterpret_cast<IMP>(replacement),
-                    reinterpret_cast<IMP*>(original));
-}
-
 } // namespace
 
 void keepHidingLog(PhotoLibrary& library) {
     for (const Asset& asset : library.assets({.includeHidden = true}))
         identifiers.push_back(asset.identifier);
-    replace("PUAssetHidingHelper", @selector(applyHiddenState:completionHandler:), &logApply, &originalApply);
-    replace("PHPhotoLibrary", @selector(performChanges:completionHandler:), &logPerform, &originalPerform);
+    replaceMethod("PUAssetHidingHelper", @selector(applyHiddenState:completionHandler:), &logApply,
+                  &originalApply);
+    replaceMethod("PHPhotoLibrary", @selector(performChanges:completionHandler:), &logPerform,
+                  &originalPerform);
     for (const char* screen : {"PUPhotosGridViewController", "PUAlbumListViewController"})
-        replace(screen, @selector(presentViewController:animated:completion:), &logPresent, &originalPresent);
+        replaceMethod(screen, @selector(presentViewController:animated:completion:), &logPresent,
+                      &originalPresent);
 }
 
 std::vector<std::string> takeHidingLog() {

@@ -8,6 +8,8 @@
 #include "hosts/host.h"
 #include "photolibrary/library.h"
 
+#import "Photos/Photos.h"
+
 #import <Foundation/Foundation.h>
 #include <gtest/gtest.h>
 
@@ -29,6 +31,9 @@ inline constexpr const char* cameraAlbum = "/var/mobile/Library/rollkeeper/album
 inline constexpr const char* lockedAlbums = "/var/mobile/Library/rollkeeper/lockedAlbums.plist";
 inline constexpr const char* password = "/var/mobile/Library/rollkeeper/settings.tct";
 } // namespace file
+
+// The user album of that title as an application fetches it; nil when it is shown none.
+PHAssetCollection* album(NSString* title);
 
 class LibraryTest : public testing::Test {
   protected:

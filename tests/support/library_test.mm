@@ -25,6 +25,15 @@ std::vector<std::string> emulatorCommand() {
 
 } // namespace
 
+PHAssetCollection* album(NSString* title) {
+    for (PHAssetCollection* each in
+         [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
+                                                  subtype:PHAssetCollectionSubtypeAny
+                                                  options:nil])
+        if ([[each title] isEqualToString:title]) return each;
+    return nil;
+}
+
 LibraryTest::LibraryTest()
     : m_pool([[NSAutoreleasePool alloc] init]), m_folder(freshFolder()), m_device(Device::create(m_folder)),
       m_library(PhotoLibrary::open(m_device)) {
