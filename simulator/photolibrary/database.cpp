@@ -15,6 +15,17 @@ DatabaseError errorOf(sqlite3* database, std::string_view subject) {
     return DatabaseError(std::string(sqlite3_errmsg(database)) + " (" + std::string(subject) + ")");
 }
 
+// A write-ahead log lets others read during a change. Of several processes that switch a new file over at
+// once SQLite refuses all but one without waiting, since each holds what the others need: they ask again.
+void useWriteAheadLog(sqlite3* database) {
+    constexpr const char* sql = "PRAGMA journal_mode = WAL";
+    int result = SQLITE_BUSY;
+    for (int waited = 0; result == SQLITE_BUSY && waited < busyTimeoutMilliseconds;
+         waited += sqlite3_sleep(1))
+        result = sqlite3_exec(database, sql, nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK) throw errorOf(database, sql);
+}
+
 } // namespace
 
 Statement::~Statement() {
@@ -97,10 +108,10 @@ Connection::Connection(const std::filesystem::path& file) {
     }
     sqlite3_busy_timeout(m_database, busyTimeoutMilliseconds);
     try {
-        // A write-ahead log lets others read during a change. A killed process loses nothing that it
-        // committed; only the desk's own power failing could, and a simulated device is not worth waiting for
-        // the disk.
-        execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = WAL; PRAGMA foreign_keys = ON;");
+        // A killed process loses nothing that it committed; only the desk's own power failing could, and a
+        // simulated device is not worth waiting for the disk.
+        execute("PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON;");
+        useWriteAheadLog(m_database);
     } catch (...) {
         sqlite3_close(m_database);
         throw;
