@@ -5,14 +5,12 @@
 #import <Foundation/Foundation.h>
 #import <GNUstepBase/NSThread+GNUstepBase.h>
 
-#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 
 // A function as an object, so that a run loop can carry it.
 @interface SimulatorWork : NSObject {
     std::function<void()> _work;
-    std::atomic<bool> _hasRun;
 }
 - (instancetype)initWithWork:(std::function<void()>)work;
 - (void)run;
@@ -27,14 +25,6 @@
 
 - (void)run {
     simulator::runAsEvent(_work);
-    _hasRun.store(true, std::memory_order_release);
-}
-
-// The thread that asked may be the last to let go. The reference count orders that after the work, but within
-// Foundation, where ThreadSanitizer cannot see it.
-- (void)dealloc {
-    (void)_hasRun.load(std::memory_order_acquire);
-    [super dealloc];
 }
 @end
 

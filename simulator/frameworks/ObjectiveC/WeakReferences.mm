@@ -3,6 +3,10 @@
 
 #import <Foundation/Foundation.h>
 
+#if __has_feature(thread_sanitizer)
+#include <sanitizer/tsan_interface.h>
+#endif
+
 #include <array>
 #include <atomic>
 #include <cstdint>
@@ -80,11 +84,24 @@ WeakReferences& weakReferences() {
     return *shared;
 }
 
+// Whoever lets go of an object is done with it before the last owner frees it. The count that orders the two
+// is within Foundation, where ThreadSanitizer cannot see it.
+#if __has_feature(thread_sanitizer)
+void isDoneWith(id object) { __tsan_release(object); }
+void waitsForAllOwnersOf(id object) { __tsan_acquire(object); }
+#else
+void isDoneWith(id) {}
+void waitsForAllOwnersOf(id) {}
+#endif
+
 void releaseObject(id self, SEL) {
+    isDoneWith(self);
     WeakReferences& references = weakReferences();
     const bool last = references.mayRefer(self) ? references.releaseWasLast(self)
                                                 : bool(NSDecrementExtraRefCountWasZero(self));
-    if (last) [self dealloc];
+    if (!last) return;
+    waitsForAllOwnersOf(self);
+    [self dealloc];
 }
 
 __attribute__((constructor)) void takeOverRelease() {
