@@ -20,7 +20,7 @@ PHOTOS = "com.apple.mobileslideshow"
 DYLIB_LIMIT = 128 * 1024  # bytes
 GROWTH_LIMIT = 1.1  # times the growth of the library
 LIBRARY_SIZES = (10, 100, 1000, 5000)  # albums
-LITERAL_SIZES = (10, 100)  # of more, the literal algorithm takes minutes
+LITERAL_SIZES = (10, 100)  # with 1,000 the literal algorithm runs out of memory
 LOADS = 11
 SETTINGS = pathlib.Path(__file__).parents[1] / "tests" / "data" / "settings.tsv"
 
