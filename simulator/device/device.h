@@ -27,8 +27,8 @@ class Device {
     std::filesystem::path photoLibrary() const { return m_folder / "photos.sqlite"; }
     std::filesystem::path conditionsFile() const { return m_folder / "conditions.json"; }
 
-    // Where a path of the device ("/var/mobile/x") lies on the desk.
-    std::filesystem::path onDesk(std::string_view devicePath) const;
+    // Where a path of the device ("/var/mobile/x") lies on this machine.
+    std::filesystem::path onLinux(std::string_view devicePath) const;
 
     Conditions conditions() const;
     void setConditions(const Conditions& conditions) const;

@@ -53,7 +53,7 @@ Device Device::open(const std::filesystem::path& folder) {
     return device;
 }
 
-std::filesystem::path Device::onDesk(std::string_view devicePath) const {
+std::filesystem::path Device::onLinux(std::string_view devicePath) const {
     return root() / std::filesystem::path(devicePath).relative_path();
 }
 
@@ -94,11 +94,13 @@ json Device::readPropertyList(std::string_view devicePath) const {
 }
 
 void Device::writeFile(std::string_view devicePath, std::string_view bytes) const {
-    writeAtomically(onDesk(devicePath), bytes);
+    writeAtomically(onLinux(devicePath), bytes);
 }
 
-std::string Device::readFile(std::string_view devicePath) const { return contentsOf(onDesk(devicePath)); }
-bool Device::exists(std::string_view devicePath) const { return std::filesystem::exists(onDesk(devicePath)); }
-void Device::remove(std::string_view devicePath) const { std::filesystem::remove_all(onDesk(devicePath)); }
+std::string Device::readFile(std::string_view devicePath) const { return contentsOf(onLinux(devicePath)); }
+bool Device::exists(std::string_view devicePath) const {
+    return std::filesystem::exists(onLinux(devicePath));
+}
+void Device::remove(std::string_view devicePath) const { std::filesystem::remove_all(onLinux(devicePath)); }
 
 } // namespace simulator

@@ -1,4 +1,4 @@
-// Catching the two kinds of exception. Objective-C++ code of the desk catches Foundation's alone and C++ code
+// Catching the two kinds of exception. Objective-C++ code on Linux catches Foundation's alone and C++ code
 // the standard library's alone, so each kind is caught in a file of its language; both pass through either.
 #pragma once
 

@@ -23,7 +23,7 @@
 namespace simulator {
 namespace {
 
-// Everything of a device that the desk's own files do not need.
+// Everything of a device that this machine's own files do not need.
 constexpr std::string_view devicePrefixes[] = {"/var",    "/private/var",  "/Library",
                                                "/System", "/Applications", "/usr/lib/librocketbootstrap"};
 
@@ -53,11 +53,11 @@ bool lists(const std::vector<std::string>& paths, std::string_view path) {
 }
 
 // A file relative to the device's root folder is a file of the device too.
-std::string devicePathOf(std::string_view desk) {
+std::string devicePathOf(std::string_view path) {
     const std::string* folder = mounted;
     if (folder == nullptr) return {};
     const std::string root = *folder + "/root";
-    return isBelow(desk, root) ? std::string(desk.substr(root.size())) : std::string();
+    return isBelow(path, root) ? std::string(path.substr(root.size())) : std::string();
 }
 
 std::string absolute(const char* path) {
@@ -71,7 +71,7 @@ class Path {
   public:
     Path(const char* given) : m_given(given) {
         if (given == nullptr || mounted.load() == nullptr) return;
-        m_resolved = deskPath(given);
+        m_resolved = linuxPath(given);
         m_devicePath = devicePathOf(absolute(m_resolved.c_str()));
         if (!m_devicePath.empty() && lists(currentConditions()->faults.missing, m_devicePath))
             m_resolved = *mounted.load() + "/root/nowhere/nothing";
@@ -153,7 +153,7 @@ std::filesystem::path mountedDevice() {
     return folder == nullptr ? std::filesystem::path() : std::filesystem::path(*folder);
 }
 
-std::string deskPath(std::string_view path) {
+std::string linuxPath(std::string_view path) {
     const std::string* folder = mounted;
     if (folder == nullptr || !belongsToDevice(path) || isBelow(path, *folder)) return std::string(path);
     return *folder + "/root" + std::string(path);

@@ -15,8 +15,8 @@ void mountDevice(const std::filesystem::path& folder);
 // The mounted device's folder, empty when there is none.
 std::filesystem::path mountedDevice();
 
-// Where a path lies on the desk: unchanged unless it is an absolute path of the device and a device is
+// Where a path lies on this machine: unchanged unless it is an absolute path of the device and a device is
 // mounted.
-std::string deskPath(std::string_view path);
+std::string linuxPath(std::string_view path);
 
 } // namespace simulator

@@ -20,7 +20,7 @@ void performOnMainThread(std::function<void()> work);
 // Makes the calling thread known to the frameworks, once; threads that run their code need it.
 void registerThread();
 
-// Runs `work` now and ends the process with a message when an exception leaves it: the run loop of the desk
+// Runs `work` now and ends the process with a message when an exception leaves it: GNUstep's run loop
 // would swallow it, a phone would crash.
 void runAsEvent(const std::function<void()>& work);
 

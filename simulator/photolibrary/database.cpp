@@ -108,8 +108,8 @@ Connection::Connection(const std::filesystem::path& file) {
     }
     sqlite3_busy_timeout(m_database, busyTimeoutMilliseconds);
     try {
-        // A killed process loses nothing that it committed; only the desk's own power failing could, and a
-        // simulated device is not worth waiting for the disk.
+        // A killed process loses nothing that it committed; only this machine's own power failing could, and
+        // a simulated device is not worth waiting for the disk.
         execute("PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON;");
         useWriteAheadLog(m_database);
     } catch (...) {

@@ -1,4 +1,4 @@
-// A thin C++ face of SQLite: connections that any thread may borrow, statements that are prepared once,
+// A thin C++ wrapper of SQLite: connections that any thread may borrow, statements that are prepared once,
 // errors as exceptions.
 #pragma once
 

@@ -1,6 +1,6 @@
 // The tour: the library at work on a simulated device, step by step, for a person to read. It ends by itself,
 // with a status other than 0 when anything went wrong.
-#include "tour/roads.h"
+#include "tour/scenarios.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -14,14 +14,15 @@ namespace {
 using namespace simulator::tour;
 
 constexpr const char* usage =
-    "usage: tour --library FILE --host PROGRAM --device-files FOLDER [--emulator COMMAND] [--road NUMBER]\n"
+    "usage: tour --library FILE --host PROGRAM --device-files FOLDER [--emulator COMMAND] [--scenario "
+    "NUMBER]\n"
     "Walks the library FILE over a device whose applications PROGRAM runs, through COMMAND when given. "
     "FOLDER holds\n"
     "what the package installs.\n";
 
 struct Options {
     Programs programs;
-    std::optional<std::size_t> road; // counted from 1
+    std::optional<std::size_t> scenario; // counted from 1
 };
 
 std::optional<Options> parse(int count, char** arguments) {
@@ -38,16 +39,17 @@ std::optional<Options> parse(int count, char** arguments) {
         } else if (name == "--emulator") {
             std::istringstream words(value);
             options.programs.emulator = {std::istream_iterator<std::string>(words), {}};
-        } else if (name == "--road") {
-            options.road = std::strtoul(value.c_str(), nullptr, 10);
+        } else if (name == "--scenario") {
+            options.scenario = std::strtoul(value.c_str(), nullptr, 10);
         } else {
             return std::nullopt;
         }
     }
     const bool isComplete =
         count % 2 == 1 && !options.programs.library.empty() && !options.programs.host.empty();
-    const bool roadExists = !options.road || (*options.road >= 1 && *options.road <= std::size(roads));
-    return isComplete && roadExists ? std::optional(options) : std::nullopt;
+    const bool scenarioExists =
+        !options.scenario || (*options.scenario >= 1 && *options.scenario <= std::size(scenarios));
+    return isComplete && scenarioExists ? std::optional(options) : std::nullopt;
 }
 
 std::filesystem::path freshFolder() {
@@ -56,11 +58,11 @@ std::filesystem::path freshFolder() {
     return folder;
 }
 
-void walk(const Road& road, const Programs& programs) {
+void run(const Scenario& scenario, const Programs& programs) {
     const std::filesystem::path folder = freshFolder();
     {
         Stage stage(programs, folder);
-        road.walk(stage);
+        scenario.play(stage);
     }
     std::filesystem::remove_all(folder);
 }
@@ -74,10 +76,10 @@ int main(int count, char** arguments) {
         return 2;
     }
     try {
-        for (std::size_t index = 0; index < std::size(roads); ++index) {
-            if (options->road && *options->road != index + 1) continue;
-            std::printf("[%zu/%zu] %s\n", index + 1, std::size(roads), roads[index].title);
-            walk(roads[index], options->programs);
+        for (std::size_t index = 0; index < std::size(scenarios); ++index) {
+            if (options->scenario && *options->scenario != index + 1) continue;
+            std::printf("[%zu/%zu] %s\n", index + 1, std::size(scenarios), scenarios[index].title);
+            run(scenarios[index], options->programs);
         }
     } catch (const std::exception& error) {
         std::fflush(stdout);

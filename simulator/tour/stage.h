@@ -1,5 +1,5 @@
-// What a road of the tour plays on: a fresh device, its photo library, its running applications, and a voice
-// that tells what happens and checks that it did.
+// What a scenario of the tour plays on: a fresh device, its photo library, its running applications, and a
+// voice that tells what happens and checks that it did.
 #pragma once
 
 #include "device/device.h"
@@ -68,9 +68,9 @@ class Stage {
 };
 
 // A part of the tour, on a device of its own.
-struct Road {
+struct Scenario {
     const char* title;
-    void (*walk)(Stage& stage);
+    void (*play)(Stage& stage);
 };
 
 } // namespace simulator::tour

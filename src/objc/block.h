@@ -26,7 +26,7 @@ namespace detail {
 template <typename T> struct BlockParameter {
     using type = T;
 };
-template <ObjectHandle Face> struct BlockParameter<Face> {
+template <ObjectHandle Wrapper> struct BlockParameter<Wrapper> {
     using type = id;
 };
 

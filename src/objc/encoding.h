@@ -77,7 +77,7 @@ template <> struct TypeEncoding<CGRect> {
 template <> struct TypeEncoding<NSRange> {
     static constexpr const char* text = "{_NSRange=QQ}";
 };
-template <ObjectHandle Face> struct TypeEncoding<Face> {
+template <ObjectHandle Wrapper> struct TypeEncoding<Wrapper> {
     static constexpr const char* text = "@";
 };
 

@@ -1,7 +1,7 @@
-// One typed message send. The typed faces in platform/ are the only callers.
+// One typed message send. The typed wrappers in platform/ are the only callers.
 //
 // The argument and result types are those of the platform's declaration: a literal 1 for an NSUInteger would
-// travel as an int, so the faces name their parameter types. No message is variadic: the phone passes
+// travel as an int, so the wrappers name their parameter types. No message is variadic: the phone passes
 // variadic arguments on the stack, where a fixed-argument callee does not look; the form that takes an array,
 // or none, is used instead.
 #pragma once
@@ -22,7 +22,7 @@ inline constexpr bool isVariadic =
     name == FixedString("predicateWithFormat:") || name == FixedString("arrayWithObjects:") ||
     name == FixedString("dictionaryWithObjectsAndKeys:") || name == FixedString("setWithObjects:");
 
-// Beyond the registers the phone packs arguments on the stack and the desk pads them to eight bytes: there
+// Beyond the registers the phone packs arguments on the stack and Linux pads them to eight bytes: there
 // only what has eight bytes lies alike.
 template <typename... Arguments> constexpr bool travelsAlike() {
     std::size_t integers = 2;
@@ -49,12 +49,12 @@ Result sendMessage(id receiver, Arguments... arguments) {
     static_assert(!isVariadic<name>,
                   "no message is variadic: use the form that takes an array or no arguments");
     static_assert(name.count(':') == sizeof...(Arguments), "a selector has one colon for each argument");
-    static_assert(travelsAlike<Arguments...>(), "stack arguments differ between phone and desk");
+    static_assert(travelsAlike<Arguments...>(), "stack arguments differ between phone and Linux");
     using Function = Result (*)(id, SEL, Arguments...);
 #ifdef __APPLE__
     return reinterpret_cast<Function>(&objc_msgSend)(receiver, selector<name>(), arguments...);
 #else
-    // The desk's runtime leaves floating-point and struct results of a message to nil undefined.
+    // The runtime on Linux leaves floating-point and struct results of a message to nil undefined.
     if (!receiver) return Result();
     const SEL message = selector<name>();
     return reinterpret_cast<Function>(objc_msgLookup(receiver, message))(receiver, message, arguments...);
@@ -63,25 +63,25 @@ Result sendMessage(id receiver, Arguments... arguments) {
 
 } // namespace detail
 
-// Sends the instance message `name`, which `Face` declares, to `receiver`. A nil receiver gives zero.
-template <typename Face, FixedString name, typename Result, typename... Arguments>
+// Sends the instance message `name`, which `Wrapper` declares, to `receiver`. A nil receiver gives zero.
+template <typename Wrapper, FixedString name, typename Result, typename... Arguments>
 Result send(Object receiver, Arguments... arguments) {
-    recordMessage<Face::className, MethodKind::instanceMethod, name, Result, Arguments...>();
+    recordMessage<Wrapper::className, MethodKind::instanceMethod, name, Result, Arguments...>();
     return detail::sendMessage<name, Result, Arguments...>(receiver.pointer, arguments...);
 }
 
-// Sends the class message `name`, which `Declaring` declares, to the class of `Face`. A class that the
+// Sends the class message `name`, which `Declaring` declares, to the class of `Wrapper`. A class that the
 // process lacks gives zero.
-template <typename Face, typename Declaring, FixedString name, typename Result, typename... Arguments>
+template <typename Wrapper, typename Declaring, FixedString name, typename Result, typename... Arguments>
 Result sendToSubclass(Arguments... arguments) {
     recordMessage<Declaring::className, MethodKind::classMethod, name, Result, Arguments...>();
     return detail::sendMessage<name, Result, Arguments...>(
-        reinterpret_cast<id>(classNamed<Face::className>()), arguments...);
+        reinterpret_cast<id>(classNamed<Wrapper::className>()), arguments...);
 }
 
-template <typename Face, FixedString name, typename Result, typename... Arguments>
+template <typename Wrapper, FixedString name, typename Result, typename... Arguments>
 Result sendToClass(Arguments... arguments) {
-    return sendToSubclass<Face, Face, name, Result>(arguments...);
+    return sendToSubclass<Wrapper, Wrapper, name, Result>(arguments...);
 }
 
 } // namespace rollkeeper

@@ -1,7 +1,7 @@
-// Writes down every message that the library can send, as text in a section of the desk build.
+// Writes down every message that the library can send, as text in a section of the Linux build.
 //
 // A line reads "NSArray -count Q@:". A test holds the lines against what is known of the real methods: a
-// wrong type crashes a phone, and nothing else on the desk would show it. The device's build carries no such
+// wrong type crashes a phone, and nothing else on Linux would show it. The device's build carries no such
 // section.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The face of NSObject: what every object answers.
+// The wrapper of NSObject: what every object answers.
 #pragma once
 
 #include "objc/message.h"
@@ -24,13 +24,16 @@ struct NSObject : Object {
     template <FixedString name> bool respondsTo() const { return respondsToSelector(selector<name>()); }
 };
 
-// The object under the face of a class, or nil when it is not of that class (or the process lacks the class).
-template <ObjectHandle Face> Face ifKindOf(Object object) {
-    const Class wanted = classNamed<Face::className>();
-    return wanted && cast<NSObject>(object).isKindOfClass(wanted) ? cast<Face>(object) : Face();
+// The object under the wrapper of a class, or nil when it is not of that class (or the process lacks the
+// class).
+template <ObjectHandle Wrapper> Wrapper ifKindOf(Object object) {
+    const Class wanted = classNamed<Wrapper::className>();
+    return wanted && cast<NSObject>(object).isKindOfClass(wanted) ? cast<Wrapper>(object) : Wrapper();
 }
 
 // The first step of "alloc and init": the initialiser that follows makes it the caller's.
-template <ObjectHandle Face> Face allocate() { return sendToSubclass<Face, NSObject, "alloc", Face>(); }
+template <ObjectHandle Wrapper> Wrapper allocate() {
+    return sendToSubclass<Wrapper, NSObject, "alloc", Wrapper>();
+}
 
 } // namespace rollkeeper

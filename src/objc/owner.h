@@ -64,8 +64,8 @@ template <typename Handle> class Owner {
 
 template <typename Handle> Owner<Handle> adopt(Handle handle) { return Owner<Handle>::adopting(handle); }
 // A new object made by `new`; nil where the process lacks the class.
-template <ObjectHandle Face> Owner<Face> make() {
-    return Owner<Face>::adopting(sendToSubclass<Face, NSObject, "new", Face>());
+template <ObjectHandle Wrapper> Owner<Wrapper> make() {
+    return Owner<Wrapper>::adopting(sendToSubclass<Wrapper, NSObject, "new", Wrapper>());
 }
 
 template <typename Handle> Owner<Handle> share(Handle handle) { return Owner<Handle>::sharing(handle); }

@@ -54,7 +54,7 @@ void dispatch_async(::dispatch_queue_s* queue, void* block);
 #ifdef __APPLE__
 void objc_msgSend();
 #else
-// The desk's form of a message: looks the implementation up and leaves the call to us. Never asked for nil.
+// The form of a message on Linux: looks the implementation up and leaves the call to us. Never asked for nil.
 rollkeeper::IMP objc_msgLookup(rollkeeper::id receiver, rollkeeper::SEL selector);
 #endif
 

@@ -1,6 +1,6 @@
 // PhotosUI and PhotosUICore, private frameworks of the Photos application.
 //
-// Which class and selector exists depends on the system release: where a selector may be missing, its face
+// Which class and selector exists depends on the system release: where a selector may be missing, its wrapper
 // says so, and the caller asks `respondsTo` first.
 #pragma once
 

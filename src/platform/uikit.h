@@ -153,8 +153,8 @@ struct UIView : NSObject {
     UIViewController viewControllerForAncestor() const;
 
   protected:
-    template <ObjectHandle Face> static Owner<Face> withFrame(CGRect frame) {
-        return adopt(send<UIView, "initWithFrame:", Face>(allocate<Face>(), frame));
+    template <ObjectHandle Wrapper> static Owner<Wrapper> withFrame(CGRect frame) {
+        return adopt(send<UIView, "initWithFrame:", Wrapper>(allocate<Wrapper>(), frame));
     }
 };
 

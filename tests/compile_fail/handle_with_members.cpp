@@ -4,13 +4,13 @@
 
 namespace rollkeeper {
 
-struct Face : NSObject {
-    static constexpr FixedString className = "Face";
+struct Wrapper : NSObject {
+    static constexpr FixedString className = "Wrapper";
 #ifdef MUST_FAIL
     int cached = 0;
 #endif
 };
 
-void convert(Object object) { (void)cast<Face>(object); }
+void convert(Object object) { (void)cast<Wrapper>(object); }
 
 } // namespace rollkeeper

@@ -1,5 +1,5 @@
-// expect: stack arguments differ between phone and desk
-// The phone packs a small argument that finds no register, the desk gives it eight bytes.
+// expect: stack arguments differ between phone and Linux
+// The phone packs a small argument that finds no register, Linux gives it eight bytes.
 #include "platform/foundation.h"
 
 namespace rollkeeper {

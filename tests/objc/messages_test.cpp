@@ -1,4 +1,4 @@
-// Messages, constants and enumeration: what the typed faces are made of.
+// Messages, constants and enumeration: what the typed wrappers are made of.
 #include "counted_object.h"
 #include "objc/autorelease_pool.h"
 #include "platform/foundation.h"

@@ -1,5 +1,5 @@
 // Every message that the library can send has the types of the device's method: a wrong one would crash a
-// phone and show nowhere on the desk.
+// phone and show nowhere on Linux.
 #include "support/environment.h"
 #include "support/table.h"
 
@@ -97,7 +97,7 @@ std::optional<std::string> lookUp(const Encodings& encodings, const std::string&
 }
 
 // The phone's binaries carry no ledger: they have the same source.
-TEST(MessageLedger, is_in_the_desk_library_alone) {
+TEST(MessageLedger, is_in_the_linux_library_alone) {
     for (const std::string& binary : binaries)
         EXPECT_EQ(ledgerOf(binary).empty(), configuration() == "arm64") << binary;
 }

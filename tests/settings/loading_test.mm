@@ -175,7 +175,7 @@ TEST_F(SettingsTest, missing_and_unreadable_files_give_the_defaults_on_reload) {
         [&] { change([](Conditions& conditions) { conditions.faults.unreadable = {file::preferences}; }); },
         [&] {
             device().remove(file::preferences);
-            std::filesystem::create_directory(device().onDesk(file::preferences));
+            std::filesystem::create_directory(device().onLinux(file::preferences));
         },
     };
     for (const auto& each : makeUnavailable) {

@@ -91,7 +91,7 @@ TEST_F(CameraStart, does_not_remember_unless_told_to) {
 
 class StateFolder : public LibraryTest {
   protected:
-    bool isThere() { return std::filesystem::is_directory(device().onDesk(file::stateFolder)); }
+    bool isThere() { return std::filesystem::is_directory(device().onLinux(file::stateFolder)); }
 };
 
 TEST_F(StateFolder, is_made_by_SpringBoard_alone) {

@@ -65,7 +65,7 @@ class OpenCounter {
 
 TEST_F(Installing, a_switched_off_library_still_reads_its_settings_and_hears_of_changes) {
     writePreferences({{"enabled", false}});
-    OpenCounter opened(device().onDesk(file::preferences));
+    OpenCounter opened(device().onLinux(file::preferences));
     start(host::photos);
     EXPECT_GT(opened.take(), 0);
     CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(),

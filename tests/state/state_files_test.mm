@@ -106,7 +106,7 @@ TEST_F(CameraAlbum, is_stored_with_every_choice) {
 // On a device both names lead to one file; without the link they part.
 TEST_F(CameraAlbum, is_written_by_the_full_name_of_var_and_read_by_the_short_one) {
     const std::string fullName = std::string("/private") + file::cameraAlbum;
-    std::filesystem::remove(device().onDesk("/private/var"));
+    std::filesystem::remove(device().onLinux("/private/var"));
     device().writePropertyList(fullName, json::array({"Work"}));
     writePreferences({{"rememberDefault", true}});
     startSpringBoard();
@@ -233,7 +233,7 @@ TEST_F(NobodyServes, when_SpringBoard_runs_without_the_library) {
 
 TEST_F(NobodyServes, when_the_state_folder_is_gone) {
     HostProcess& springBoard = startSpringBoard();
-    std::filesystem::remove_all(device().onDesk(file::stateFolder));
+    std::filesystem::remove_all(device().onLinux(file::stateFolder));
     expectLockInMemoryOnly();
     EXPECT_FALSE(device().exists(file::stateFolder)) << "the folder is made at the start alone";
     EXPECT_TRUE(springBoard.isRunning());

@@ -60,7 +60,7 @@ class LibraryTest : public testing::Test {
     HostProcess& startSpringBoard();
     Host& host() { return *m_host; }
 
-    // Waits on the main run loop; a failure of the test when it was in vain.
+    // Waits on the main run loop; a failure of the test when it never holds.
     void waitFor(const std::function<bool()>& condition);
     // Runs what the main run loop has waiting, and gives other processes a moment to answer.
     void settle() { m_host->spin(0.2); }

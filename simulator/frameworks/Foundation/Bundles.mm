@@ -17,7 +17,7 @@ NSString* fileIn(NSBundle* bundle, NSString* name) {
     return [[bundle bundlePath] stringByAppendingPathComponent:name];
 }
 
-// What the desk's own bundles have elsewhere.
+// What this machine's own bundles have elsewhere.
 NSDictionary* flatInformation(NSBundle* bundle) {
     return bundle == [NSBundle mainBundle]
                ? nil
@@ -31,7 +31,7 @@ NSMutableSet* loadedExecutables() {
 
 BOOL loadExecutable(NSString* path) {
     if ([loadedExecutables() containsObject:path]) return YES;
-    const LoadResult result = loadLibrary(deskPath([path fileSystemRepresentation]));
+    const LoadResult result = loadLibrary(linuxPath([path fileSystemRepresentation]));
     if (const auto* error = std::get_if<LoadError>(&result)) {
         NSLog(@"%s", error->message.c_str());
         return NO;

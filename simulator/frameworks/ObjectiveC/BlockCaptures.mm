@@ -1,4 +1,4 @@
-// Blocks own the objects that they capture, as on the device: the desk's block runtime copies the pointer
+// Blocks own the objects that they capture, as on the device: the Linux block runtime copies the pointer
 // only.
 #include "device/next_function.h"
 

@@ -1,4 +1,4 @@
-// Functions that the device's runtime exports and the desk's only has inline.
+// Functions that the device's runtime exports and the one here only has inline.
 extern "C" {
 
 struct objc_class;

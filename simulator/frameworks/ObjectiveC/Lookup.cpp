@@ -1,5 +1,5 @@
 // The runtime's look-ups as this release of the device answers them. Defined ahead of the runtime's own, so
-// that every caller gets them, the frameworks of the desk included.
+// that every caller gets them, the frameworks of this machine included.
 #include "device/next_function.h"
 #include "device/releases.h"
 #include "frameworks/Hooking/AddedMethods.h"

@@ -1,4 +1,4 @@
-// Functions of the device's Objective-C runtime that the desk's runtime lacks.
+// Functions of the device's Objective-C runtime that the runtime here lacks.
 #pragma once
 
 #include <objc/runtime.h>

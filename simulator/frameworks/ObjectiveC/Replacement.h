@@ -1,4 +1,4 @@
-// Puts the simulator's own implementation in place of a method of the desk's Foundation.
+// Puts the simulator's own implementation in place of a method of GNUstep's Foundation.
 #pragma once
 
 #include "device/next_function.h"

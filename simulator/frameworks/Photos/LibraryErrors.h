@@ -1,4 +1,4 @@
-// Where C++ exceptions end: Objective-C++ code of the desk's runtime cannot catch them, plain C++ can.
+// Where C++ exceptions end: Objective-C++ code on Linux cannot catch them, plain C++ can.
 #pragma once
 
 #include <functional>

@@ -275,7 +275,7 @@ extern NSString* const PHPhotosErrorDomain;
 }
 /// A new photo, taken now.
 + (instancetype)creationRequestForAssetFromImage:(UIImage*)image;
-/// A new video, taken now. The desk keeps no footage, so the file is not read and need not be there.
+/// A new video, taken now. The simulator keeps no footage, so the file is not read and need not be there.
 + (instancetype)creationRequestForAssetFromVideoAtFileURL:(NSURL*)file;
 + (instancetype)changeRequestForAsset:(PHAsset*)asset;
 /// Moves assets to the trash, and those that are there out of the library.

@@ -101,7 +101,7 @@
     id<PhotoLibrarySaving> library =
         [(Class<PhotoLibrarySaving>)objc_getClass("PHPhotoLibrary") sharedPhotoLibrary];
     if (!library || !request) return [self activityDidFinish:NO];
-    // Blocks of the desk retain no objects by themselves.
+    // Blocks on Linux retain no objects by themselves.
     const simulator::Retained<NSArray*> images(_images);
     const simulator::Retained<UIActivity*> alive(self);
     [library

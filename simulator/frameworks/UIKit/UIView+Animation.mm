@@ -14,16 +14,16 @@
                  completion:(void (^)(BOOL finished))completion {
     simulator::mainThreadOnly(self, _cmd);
     if (!animations) [NSException raise:NSInvalidArgumentException format:@"animations must not be nil"];
-    std::vector<simulator::Retained<UIView*>> deafViews;
+    std::vector<simulator::Retained<UIView*>> untouchableViews;
     {
         const simulator::AnimationScope scope((options & UIViewAnimationOptionAllowUserInteraction) != 0);
         animations();
-        deafViews = scope.deafViews();
+        untouchableViews = scope.untouchableViews();
     }
-    if (!completion && deafViews.empty()) return;
+    if (!completion && untouchableViews.empty()) return;
     const simulator::OwnedBlock<void (^)(BOOL)> finish(completion);
-    simulator::clock().after(duration + delay, [finish, deafViews] {
-        simulator::endAnimation(deafViews);
+    simulator::clock().after(duration + delay, [finish, untouchableViews] {
+        simulator::endAnimation(untouchableViews);
         finish(YES);
     });
 }

@@ -26,9 +26,9 @@ class Files : public DeviceTest {
 };
 
 TEST_F(Files, paths_of_the_device_lie_in_its_root) {
-    EXPECT_EQ(deskPath("/var/mobile/x"), (device().root() / "var/mobile/x").string());
-    EXPECT_EQ(deskPath("/variable"), "/variable");
-    EXPECT_EQ(deskPath("/usr/share"), "/usr/share");
+    EXPECT_EQ(linuxPath("/var/mobile/x"), (device().root() / "var/mobile/x").string());
+    EXPECT_EQ(linuxPath("/variable"), "/variable");
+    EXPECT_EQ(linuxPath("/usr/share"), "/usr/share");
     EXPECT_TRUE(write(texts));
     EXPECT_TRUE(device().exists("/var/mobile/Library/list.plist"));
     EXPECT_TRUE([[NSArray arrayWithContentsOfFile:@"/private/var/mobile/Library/list.plist"] isEqual:texts]);
@@ -54,7 +54,7 @@ TEST_F(Files, every_way_of_the_c_library_reaches_the_same_file) {
     close(temporary);
     EXPECT_EQ(std::string(name).find("XXXXXX"), std::string::npos);
     EXPECT_EQ(unlink(name), 0);
-    EXPECT_FALSE(std::filesystem::exists(device().onDesk(name)));
+    EXPECT_FALSE(std::filesystem::exists(device().onLinux(name)));
     EXPECT_TRUE(device().exists(file));
 }
 

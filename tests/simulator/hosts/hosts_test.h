@@ -29,7 +29,7 @@ class HostsTest : public testing::Test {
 
     // Starts the application without the library.
     Host& start(const std::string& bundleIdentifier);
-    // Waits on the main run loop; a failure of the test when it was in vain.
+    // Waits on the main run loop; a failure of the test when it never holds.
     void waitFor(const std::function<bool()>& condition);
 
     // The sample's photo of that number, the oldest being 0; read anew.

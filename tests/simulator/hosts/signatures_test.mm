@@ -14,12 +14,12 @@
 namespace simulator::test {
 namespace {
 
-// Two spellings of the desk differ from the device's without a difference in how values travel: BOOL, and the
-// qualifiers of a declaration. Offsets say where the desk puts arguments on its stack.
-std::string asOnTheDevice(const char* deskEncoding) {
+// Two spellings of GNUstep differ from the device's without a difference in how values travel: BOOL, and the
+// qualifiers of a declaration. Offsets say where Linux puts arguments on its stack.
+std::string asOnTheDevice(const char* linuxEncoding) {
     std::string encoding;
     int depth = 0; // inside the braces of a struct names and lengths stay
-    for (const char* c = deskEncoding; *c != '\0'; ++c) {
+    for (const char* c = linuxEncoding; *c != '\0'; ++c) {
         if (*c == '{') ++depth;
         if (*c == '}') --depth;
         if (depth == 0 && std::strchr("0123456789+-Vrn", *c) != nullptr) continue;
@@ -65,7 +65,7 @@ const Exception differing[] = {
     {"SpringBoard", "handleMessageNamed:withUserInfo:"},
     // Predicates ask for the value `hidden`, which finds the getter isHidden as on the device.
     {"PHAsset", "hidden"},
-    // String encodings are 32 bits wide in the desk's Foundation; they travel in a register all the same.
+    // String encodings are 32 bits wide in GNUstep's Foundation; they travel in a register all the same.
     {"NSString", "stringWithContentsOfFile:encoding:error:"},
     {"NSString", "initWithContentsOfFile:encoding:error:"},
     {"NSString", "writeToFile:atomically:encoding:error:"},

@@ -89,7 +89,7 @@ class UIKitPadTest : public UIKitTest {
 
 // The name of the exception that `work` raises; empty when it raises none.
 std::string exceptionOf(const std::function<void()>& work);
-// What the C++ exception says that `work` throws; empty when it throws none. Objective-C++ code of the desk
+// What the C++ exception says that `work` throws; empty when it throws none. Objective-C++ code on Linux
 // cannot catch those itself.
 std::string errorOf(const std::function<void()>& work);
 // "name: reason" of the exception that `work` raises on a thread other than the main thread.

@@ -18,18 +18,18 @@ class AnimationScope {
     AnimationScope& operator=(const AnimationScope&) = delete;
 
     // The views that take no touches until endAnimation().
-    const std::vector<Retained<UIView*>>& deafViews() const { return m_deafViews; }
+    const std::vector<Retained<UIView*>>& untouchableViews() const { return m_untouchableViews; }
 
   private:
     friend void noteChange(UIView* view);
 
     bool m_allowsTouches;
     AnimationScope* m_outer;
-    std::vector<Retained<UIView*>> m_deafViews;
+    std::vector<Retained<UIView*>> m_untouchableViews;
 };
 
 // The geometry or opacity of a view changes.
 void noteChange(UIView* view);
-void endAnimation(const std::vector<Retained<UIView*>>& deafViews);
+void endAnimation(const std::vector<Retained<UIView*>>& untouchableViews);
 
 } // namespace simulator

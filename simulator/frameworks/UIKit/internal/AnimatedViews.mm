@@ -19,12 +19,12 @@ AnimationScope::~AnimationScope() { innermost = m_outer; }
 
 void noteChange(UIView* view) {
     if (!innermost || innermost->m_allowsTouches) return;
-    innermost->m_deafViews.emplace_back(view);
+    innermost->m_untouchableViews.emplace_back(view);
     ++[view viewState].animationsWithoutTouches;
 }
 
-void endAnimation(const std::vector<Retained<UIView*>>& deafViews) {
-    for (const auto& view : deafViews)
+void endAnimation(const std::vector<Retained<UIView*>>& untouchableViews) {
+    for (const auto& view : untouchableViews)
         --[view.get() viewState].animationsWithoutTouches;
 }
 

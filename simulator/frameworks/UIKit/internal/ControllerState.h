@@ -1,4 +1,4 @@
-// What a controller keeps behind its face, and how it comes on the screen and goes.
+// What a controller keeps behind its methods, and how it comes on the screen and goes.
 #pragma once
 
 #import "UIKit/UIViewController.h"

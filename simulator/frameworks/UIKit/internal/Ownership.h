@@ -42,7 +42,7 @@ template <typename Object = id> class Retained {
     Object m_object = nil;
 };
 
-// Holds a copy of a block, or none. `retain` does not work on blocks of the desk, `_Block_copy` does.
+// Holds a copy of a block, or none. `retain` does not work on blocks here, `_Block_copy` does.
 template <typename Block> class OwnedBlock {
   public:
     OwnedBlock() = default;

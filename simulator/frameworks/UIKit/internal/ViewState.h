@@ -1,4 +1,4 @@
-// What a view keeps behind its face, for the parts of this stand-in that work on the view tree.
+// What a view keeps behind its methods, for the parts of this stand-in that work on the view tree.
 #pragma once
 
 #import "UIKit/UIView.h"

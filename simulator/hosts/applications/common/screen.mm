@@ -27,7 +27,7 @@ UIViewController* controllerOnScreen() {
 void waitUntil(const std::function<bool()>& condition, const std::string& what, double timeout) {
     NSDate* end = [NSDate dateWithTimeIntervalSinceNow:timeout];
     while (!condition()) {
-        if ([end timeIntervalSinceNow] < 0) throw std::runtime_error("waited in vain for " + what);
+        if ([end timeIntervalSinceNow] < 0) throw std::runtime_error("gave up waiting for " + what);
         @autoreleasepool {
             [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode
                                      beforeDate:[NSDate dateWithTimeIntervalSinceNow:0.01]];

@@ -1,4 +1,4 @@
-// The roads of the tour, in the order in which they are walked.
+// The scenarios of the tour, in the order in which they run.
 #pragma once
 
 #include "hosts/applications/bundle_identifiers.h"
@@ -13,7 +13,7 @@ void takePhotosIntoAnAlbum(Stage& stage);
 void compareWhatApplicationsSee(Stage& stage);
 void changeSettingsInThePane(Stage& stage);
 
-inline constexpr Road roads[] = {
+inline constexpr Scenario scenarios[] = {
     {"The library loads into every application", loadIntoEveryHost},
     {"An album is locked, opened and emptied", lockAnAlbum},
     {"Photos move between albums and the Camera Roll", workWithAlbumContents},

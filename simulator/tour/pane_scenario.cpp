@@ -1,4 +1,4 @@
-#include "tour/roads.h"
+#include "tour/scenarios.h"
 
 #include <algorithm>
 
