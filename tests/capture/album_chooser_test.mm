@@ -1,5 +1,5 @@
 // The sheet that asks for an album and the alert that creates one, in the Camera and after a save.
-#include "capture/capture_test.h"
+#include "capture/capture_fixture.h"
 
 namespace simulator::test {
 namespace {

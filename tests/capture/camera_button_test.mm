@@ -1,5 +1,5 @@
 // The album button and its label in the Camera's bottom bar.
-#include "capture/capture_test.h"
+#include "capture/capture_fixture.h"
 #include "support/environment.h"
 
 namespace simulator::test {

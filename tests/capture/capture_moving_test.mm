@@ -1,5 +1,5 @@
 // What becomes of the newest photo after a capture, and what the image well shows.
-#include "capture/capture_test.h"
+#include "capture/capture_fixture.h"
 
 namespace simulator::test {
 namespace {

@@ -1,5 +1,5 @@
 // Saving from a share sheet: the album that is asked for afterwards, and what becomes of the saved picture.
-#include "capture/capture_test.h"
+#include "capture/capture_fixture.h"
 
 namespace simulator::test {
 namespace {

@@ -1,7 +1,7 @@
 // What a process sees of the photo library, with the library under test in the test's own process.
 #pragma once
 
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include <set>
 

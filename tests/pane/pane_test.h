@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hosts/applications/settings/settings_app.h"
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #include <string>
 #include <vector>

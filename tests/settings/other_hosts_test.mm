@@ -4,7 +4,7 @@
 #include "device/clock.h"
 #include "hosts/applications/camera/camera_app.h"
 #include "hosts/applications/plain/plain_app.h"
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Photos with the library under test, and what its replaced methods show of each setting.
 #pragma once
 
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #include <map>
 #include <string>

@@ -1,5 +1,5 @@
 // Which methods the library replaces and adds in which host.
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 #include "support/table.h"
 
 #include <gmock/gmock.h>

@@ -3,7 +3,7 @@
 
 #include "hosts/applications/camera/camera_app.h"
 #include "support/environment.h"
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #include <gtest/gtest.h>
 

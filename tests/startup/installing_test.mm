@@ -4,7 +4,7 @@
 
 #include "hosts/applications/catalogue.h"
 #include "hosts/applications/photos/photos_app.h"
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #include <gmock/gmock.h>
 #include <objc/runtime.h>

@@ -3,7 +3,7 @@
 #import "Hooking/Hooking.h"
 
 #include "hosts/applications/photos/photos_app.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include <gmock/gmock.h>
 

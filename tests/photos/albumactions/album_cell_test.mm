@@ -1,7 +1,5 @@
 // The two buttons of an album's cell: locking, moving, and the cell's own way of unlocking.
-#include "support/photos_test.h"
-
-#include "LocalAuthentication/Reasons.h"
+#include "support/photos_fixture.h"
 
 #include "device/clock.h"
 
@@ -221,7 +219,7 @@ TEST_P(CellUnlocking, asks_as_the_setting_and_the_owner_say) {
             host().runUntil([&] { return result() == each.expected; });
         EXPECT_EQ(result(), each.expected);
         if (!asksAtOnce) ++evaluations;
-        EXPECT_EQ(authenticationReasons(), Titles(evaluations, "Holidays needs to be unlocked."));
+        EXPECT_EQ(unlockReasons(), Titles(evaluations, "Holidays needs to be unlocked."));
     }
 }
 

@@ -1,7 +1,7 @@
 // Moved photos become visible again when they leave their last album or come back from the trash; and how an
 // album is shown.
 #include "support/hiding_log.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 // An album under a title that a test chooses.
 @interface RetitledAlbum : PUPhotosAlbumViewController {

@@ -3,7 +3,7 @@
 #import "Hooking/Hooking.h"
 #include "hosts/applications/common/launch.h"
 #include "support/hiding_log.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include "device/clock.h"
 

@@ -1,6 +1,6 @@
 // The tabs of the library, the bar with one tab left, and the size of covers that the corners over them tell.
 #import "PhotosUICore/PhotosUICore.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include <bit>
 

@@ -1,6 +1,6 @@
 // Single answers of Photos that a setting changes.
 #import "PhotosUICore/PhotosUICore.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 namespace simulator::test {
 namespace {

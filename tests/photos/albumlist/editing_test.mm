@@ -1,5 +1,5 @@
 // Answers of the album list that follow the settings, and deleting an album with moved photos.
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include "device/clock.h"
 

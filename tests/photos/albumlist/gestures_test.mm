@@ -1,5 +1,5 @@
 // Long presses in the album list: on a cell and on the navigation bar.
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include "device/clock.h"
 

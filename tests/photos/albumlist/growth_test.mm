@@ -1,6 +1,6 @@
 // Configuring the album list's cells thousands of times must not make the process grow.
 #include "device/living_objects.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include <gmock/gmock.h>
 

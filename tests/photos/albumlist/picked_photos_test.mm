@@ -1,7 +1,7 @@
 // Photos that were picked for an album and are moved: which ones are hidden, wherever they were picked, and
 // out of which album they go.
 #include "support/hiding_log.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 @interface PUAlbumListViewController (Moving)
 - (void)reloadCameraRollWithMove:(BOOL)move;

@@ -1,5 +1,5 @@
 // What the album list shows: thumbnails, lock overlays, counts, recognisers and cell buttons.
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,5 @@
 // Touching, deleting and unlocking a locked album in the album list; picking an album for photos.
-#include "support/photos_test.h"
-
-#include "LocalAuthentication/Reasons.h"
+#include "support/photos_fixture.h"
 
 #include "device/clock.h"
 
@@ -155,7 +153,7 @@ TEST_F(AlbumListUnlocking, touch_id_tells_which_album) {
     openAlbumList({}, {"100% “us”"});
     photos::tapAlbum("100% “us”");
     waitFor([&] { return hasOpenedAlbum(); });
-    EXPECT_THAT(authenticationReasons(), ElementsAre("100% “us” needs to be unlocked."));
+    EXPECT_THAT(unlockReasons(), ElementsAre("100% “us” needs to be unlocked."));
 }
 
 TEST_F(AlbumListUnlocking, unlocked_albums_open_without_question) {

@@ -2,7 +2,7 @@
 // it.
 #include "loader/loader.h"
 #include "support/environment.h"
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #include <dlfcn.h>
 #include <fstream>

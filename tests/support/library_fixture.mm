@@ -1,6 +1,9 @@
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #import "CoreFoundation/CoreFoundation.h"
+#import "Dispatch/Dispatch.h"
+#import "LocalAuthentication/LocalAuthentication.h"
+#include "LocalAuthentication/Reasons.h"
 #include "photolibrary/samples.h"
 #include "support/environment.h"
 
@@ -12,10 +15,16 @@ namespace simulator::test {
 
 namespace {
 
+NSString* const settlingReason = @"settling";
+
 std::filesystem::path freshFolder() {
     std::string folder = (std::filesystem::temp_directory_path() / "rollkeeper-XXXXXX").string();
     if (mkdtemp(folder.data()) == nullptr) throw std::runtime_error("no folder for a device");
     return folder;
+}
+
+void noteArrival(CFNotificationCenterRef, void* arrived, CFStringRef, const void*, CFDictionaryRef) {
+    *static_cast<bool*>(arrived) = true;
 }
 
 std::vector<std::string> emulatorCommand() {
@@ -54,10 +63,18 @@ void LibraryTest::writePreferences(const nlohmann::json& preferences) {
 
 void LibraryTest::reloadPreferences(const nlohmann::json& preferences) {
     writePreferences(preferences);
-    CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(),
-                                         (CFStringRef) @"com.nrv.rollkeeperprefs/reloadPrefs", nullptr,
-                                         nullptr, true);
-    settle();
+    postAndWait(@"com.nrv.rollkeeperprefs/reloadPrefs");
+}
+
+// Observers are told in the order in which they registered: the library's has been told when ours is.
+void LibraryTest::postAndWait(NSString* notification) {
+    const auto name = (CFStringRef)notification;
+    CFNotificationCenterRef center = CFNotificationCenterGetDarwinNotifyCenter();
+    bool hasArrived = false;
+    CFNotificationCenterAddObserver(center, &hasArrived, noteArrival, name, nullptr, 0);
+    CFNotificationCenterPostNotification(center, name, nullptr, nullptr, true);
+    waitFor([&] { return hasArrived; });
+    CFNotificationCenterRemoveObserver(center, &hasArrived, name, nullptr);
 }
 
 void LibraryTest::lockAlbums(const std::vector<std::string>& titles) {
@@ -92,6 +109,37 @@ HostProcess& LibraryTest::startSpringBoard() {
 
 void LibraryTest::waitFor(const std::function<bool()>& condition) {
     ASSERT_TRUE(m_host->runUntil(condition));
+}
+
+// A round trip through each queue, behind what waits there. An answer may begin a change, and the end of one
+// change another.
+void LibraryTest::settle() {
+    bool isAnswered = false;
+    bool* answered = &isAnswered;
+    [[[[LAContext alloc] init] autorelease] evaluatePolicy:LAPolicyDeviceOwnerAuthenticationWithBiometrics
+                                           localizedReason:settlingReason
+                                                     reply:^(BOOL, NSError*) {
+                                                         dispatch_async(dispatch_get_main_queue(), ^{
+                                                             *answered = true;
+                                                         });
+                                                     }];
+    waitFor([&] { return isAnswered; });
+    for (int round = 0; round < 2; ++round) {
+        NSError* error = nil;
+        [[PHPhotoLibrary sharedPhotoLibrary]
+            performChangesAndWait:^{
+            }
+                            error:&error];
+        postAndWait(@"settled");
+    }
+    // It takes this after the messages that it has been sent.
+    if (m_springBoard && m_springBoard->isRunning()) m_springBoard->call("ready");
+}
+
+std::vector<std::string> LibraryTest::unlockReasons() {
+    std::vector<std::string> reasons = authenticationReasons();
+    std::erase(reasons, [settlingReason UTF8String]);
+    return reasons;
 }
 
 } // namespace simulator::test

@@ -44,7 +44,7 @@ class LibraryTest : public testing::Test {
     PhotoLibrary& library() { return *m_library; }
 
     void writePreferences(const nlohmann::json& preferences);
-    // Writes them and posts the notification, as the settings pane does, and lets it arrive.
+    // Writes them and posts the notification, as the settings pane does; the library has read them then.
     void reloadPreferences(const nlohmann::json& preferences);
     void lockAlbums(const std::vector<std::string>& titles);
     // The list in the file; nothing when there is no file.
@@ -62,10 +62,15 @@ class LibraryTest : public testing::Test {
 
     // Waits on the main run loop; a failure of the test when it never holds.
     void waitFor(const std::function<bool()>& condition);
-    // Runs what the main run loop has waiting, and gives other processes a moment to answer.
-    void settle() { m_host->spin(0.2); }
+    // Waits until nothing that was begun is under way any more: answers of Touch ID, changes of the photo
+    // library, notifications, and what these begin on the main queue.
+    void settle();
+    // What Touch ID was asked for so far.
+    static std::vector<std::string> unlockReasons();
 
   private:
+    void postAndWait(NSString* notification);
+
     NSAutoreleasePool* m_pool;
     std::filesystem::path m_folder;
     Device m_device;

@@ -2,7 +2,7 @@
 // what a user does there, and what becomes of the photos.
 #pragma once
 
-#include "support/library_test.h"
+#include "support/library_fixture.h"
 
 #import "UIKit/ViewTree.h"
 #import "hosts/applications/common/screen.h"
@@ -39,6 +39,7 @@ void PrintTo(CGRect rect, std::ostream* out);
 @interface RequestRecorder : NSObject {
   @public
     std::vector<nlohmann::json> requests;
+    bool isMarked; // by the message that was sent last
 }
 @end
 
@@ -61,7 +62,7 @@ class PhotosTest : public LibraryTest {
     PUAlbumListViewController* openAlbumList(const nlohmann::json& preferences = {},
                                              const std::vector<std::string>& locked = {});
     RequestRecorder* recordRequests();
-    // Waits until the recorder has that many requests, and a moment for one too many.
+    // Waits until the recorder has that many requests, and all that were sent.
     void waitForRequests(RequestRecorder* recorder, std::size_t count);
     // Configures every visible cell anew.
     void reload();

@@ -1,4 +1,4 @@
-#import "support/photos_test.h"
+#import "support/photos_fixture.h"
 
 #import "AppSupport/AppSupport.h"
 #import "device/json_objects.h"
@@ -24,10 +24,15 @@ void PrintTo(CGRect rect, std::ostream* out) {
 
 @end
 
+static NSString* const markName = @"mark";
+
 @implementation RequestRecorder
 
 - (NSDictionary*)takeMessageNamed:(NSString*)name withUserInfo:(NSDictionary*)info {
-    requests.push_back(simulator::jsonFromObject(info));
+    if ([name isEqualToString:markName])
+        isMarked = true;
+    else
+        requests.push_back(simulator::jsonFromObject(info));
     return nil;
 }
 
@@ -40,6 +45,14 @@ std::ostream& operator<<(std::ostream& out, Asked asked) {
     return out << names[static_cast<std::size_t>(asked)];
 }
 
+namespace {
+
+CPDistributedMessagingCenter* fileWritingCentre() {
+    return [CPDistributedMessagingCenter centerNamed:@"com.nrv.rollkeeper"];
+}
+
+} // namespace
+
 PUAlbumListViewController* PhotosTest::openAlbumList(const nlohmann::json& preferences,
                                                      const std::vector<std::string>& locked) {
     if (!preferences.is_null()) writePreferences(preferences);
@@ -50,17 +63,21 @@ PUAlbumListViewController* PhotosTest::openAlbumList(const nlohmann::json& prefe
 
 RequestRecorder* PhotosTest::recordRequests() {
     RequestRecorder* recorder = [[[RequestRecorder alloc] init] autorelease];
-    CPDistributedMessagingCenter* center = [CPDistributedMessagingCenter centerNamed:@"com.nrv.rollkeeper"];
-    [center runServerOnCurrentThread];
-    [center registerForMessageName:@"savearray"
-                            target:recorder
-                          selector:@selector(takeMessageNamed:withUserInfo:)];
+    [fileWritingCentre() runServerOnCurrentThread];
+    for (NSString* name in @[ @"savearray", markName ])
+        [fileWritingCentre() registerForMessageName:name
+                                             target:recorder
+                                           selector:@selector(takeMessageNamed:withUserInfo:)];
     return recorder;
 }
 
+// The centre, which the library opens for the application before it sends, refuses the mark while nothing was
+// sent.
 void PhotosTest::waitForRequests(RequestRecorder* recorder, std::size_t count) {
     host().runUntil([&] { return recorder->requests.size() >= count; });
     settle();
+    recorder->isMarked = ![fileWritingCentre() sendMessageName:markName userInfo:nil];
+    waitFor([&] { return recorder->isMarked; });
     EXPECT_EQ(recorder->requests.size(), count);
 }
 

@@ -4,7 +4,7 @@
 
 #include "device/clock.h"
 #include "hosts/applications/catalogue.h"
-#include "support/photos_test.h"
+#include "support/photos_fixture.h"
 #include "support/replacing.h"
 
 #import "Photos/Photos.h"
