@@ -1,105 +1,65 @@
 #import "Preferences/PSListController.h"
 
-#import "Preferences/PSKeys.h"
-#import "Preferences/PSRootController.h"
-#import "Preferences/PSSpecifier.h"
 #import "Preferences/PSTableCell.h"
 
-#include <objc/runtime.h>
+@implementation PSRootController
+@end
+
+@implementation PSViewController
+
+@synthesize specifier = _specifier, parentController = _parentController;
+
+- (void)dealloc {
+    [_specifier release];
+    [super dealloc];
+}
+
+- (void)setSpecifier:(PSSpecifier*)specifier {
+    [_specifier autorelease];
+    _specifier = [specifier retain];
+    if ([[self title] length] == 0) [self setTitle:[specifier name]];
+}
+
+- (id)readPreferenceValue:(PSSpecifier*)specifier {
+    return nil;
+}
+
+@end
 
 @implementation PSListController
 
+@synthesize table = _table;
+
 - (instancetype)init {
     self = [super init];
-    if (!self) return nil;
-    _bundleControllers = [[NSMutableArray alloc] init];
+    if (self == nil) return nil;
+    _sections = [[NSMutableArray alloc] init];
     _cells = [[NSMutableDictionary alloc] init];
-    _groups = [[NSMutableArray alloc] init];
     return self;
-}
-
-- (instancetype)initForContentSize:(CGSize)size {
-    return [self init];
 }
 
 - (void)dealloc {
     [_table setDataSource:nil];
     [_table setDelegate:nil];
-    [_specifiers release];
     [_table release];
-    [_specifierID release];
-    [_bundleControllers release];
+    [_specifiers release];
+    [_sections release];
     [_cells release];
-    [_groups release];
     [super dealloc];
-}
-
-#pragma mark The screen
-
-- (UITableView*)table {
-    return _table;
-}
-
-- (NSInteger)tableViewStyle {
-    return UITableViewStyleGrouped;
 }
 
 - (void)loadView {
     [super loadView];
-    _table = [[UITableView alloc] initWithFrame:[[self view] bounds]
-                                          style:static_cast<UITableViewStyle>([self tableViewStyle])];
+    _table = [[UITableView alloc] initWithFrame:[[self view] bounds] style:UITableViewStyleGrouped];
     [_table setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
     [_table setDataSource:self];
     [_table setDelegate:self];
     [[self view] addSubview:_table];
 }
 
-- (void)viewDidLoad {
-    [super viewDidLoad];
-    [self specifiers];
-    [self reload];
-}
-
 - (void)viewWillAppear:(BOOL)animated {
     [super viewWillAppear:animated];
     [self reload];
-}
-
-- (void)viewDidAppear:(BOOL)animated {
-    [super viewDidAppear:animated];
-}
-
-- (void)viewWillDisappear:(BOOL)animated {
-    [super viewWillDisappear:animated];
-}
-
-- (void)viewDidDisappear:(BOOL)animated {
-    [super viewDidDisappear:animated];
-}
-
-- (void)viewDidLayoutSubviews {
-    [super viewDidLayoutSubviews];
-    [_table setFrame:[[self view] bounds]];
-}
-
-- (void)setTitle:(NSString*)title {
-    [super setTitle:title];
-}
-
-#pragma mark The row that opened this pane
-
-- (PSSpecifier*)specifier {
-    return [super specifier];
-}
-
-- (void)setSpecifier:(PSSpecifier*)specifier {
-    [super setSpecifier:specifier];
-    [_specifierID release];
-    _specifierID = [[specifier identifier] copy];
-}
-
-- (NSString*)specifierID {
-    return _specifierID;
 }
 
 #pragma mark The rows
@@ -108,134 +68,160 @@
     return _specifiers;
 }
 
-- (void)setSpecifiers:(NSArray*)specifiers {
-    if (specifiers != _specifiers) {
-        [_specifiers release];
-        _specifiers = [specifiers retain];
-    }
-    [self reload];
-}
-
 - (NSBundle*)bundle {
     return [NSBundle bundleForClass:[self class]];
 }
 
 - (NSArray*)loadSpecifiersFromPlistName:(NSString*)name target:(id)target {
-    return [self loadSpecifiersFromPlistName:name target:target bundle:[self bundle]];
-}
-
-- (NSArray*)loadSpecifiersFromPlistName:(NSString*)name target:(id)target bundle:(NSBundle*)bundle {
+    NSString* file = [name stringByAppendingPathExtension:@"plist"];
     NSDictionary* list = [NSDictionary
-        dictionaryWithContentsOfFile:
-            [[bundle bundlePath] stringByAppendingPathComponent:[name stringByAppendingString:@".plist"]]];
-    NSString* title = [list objectForKey:@"title"];
-    if ([title isKindOfClass:[NSString class]])
-        [self setTitle:[bundle localizedStringForKey:title value:title table:name]];
-    return PSSpecifiersFromPropertyList(list, target, bundle, name);
+        dictionaryWithContentsOfFile:[[[self bundle] bundlePath] stringByAppendingPathComponent:file]];
+    NSMutableArray* rows = [NSMutableArray array];
+    for (NSDictionary* row in [list objectForKey:@"items"])
+        [rows addObject:[PSSpecifier specifierWithDictionary:row target:target]];
+    return rows;
 }
 
 - (void)reload {
     [_cells removeAllObjects];
-    [self prepareGroups];
+    [_sections removeAllObjects];
+    for (PSSpecifier* specifier in [self specifiers]) {
+        const bool beginsGroup = [specifier cellType] == PSGroupCell;
+        if (beginsGroup || [_sections count] == 0)
+            [_sections
+                addObject:[NSMutableArray
+                              arrayWithObject:beginsGroup ? specifier : [PSSpecifier emptyGroupSpecifier]]];
+        if (!beginsGroup) [[_sections lastObject] addObject:specifier];
+    }
     [_table reloadData];
 }
 
 - (void)reloadSpecifiers {
     [_specifiers release];
     _specifiers = nil;
-    [self specifiers];
     [self reload];
 }
 
 - (void)reloadSpecifier:(PSSpecifier*)specifier {
-    [self reloadSpecifier:specifier animated:NO];
-}
-
-- (void)reloadSpecifier:(PSSpecifier*)specifier animated:(BOOL)animated {
     [[self cachedCellForSpecifier:specifier] refreshCellContentsWithSpecifier:specifier];
 }
 
-- (void)reloadSpecifierID:(NSString*)identifier {
-    [self reloadSpecifierID:identifier animated:NO];
+- (PSSpecifier*)specifierForID:(NSString*)identifier {
+    for (PSSpecifier* specifier in [self specifiers])
+        if ([[specifier identifier] isEqual:identifier]) return specifier;
+    return nil;
 }
 
-- (void)reloadSpecifierID:(NSString*)identifier animated:(BOOL)animated {
-    [self reloadSpecifier:[self specifierForID:identifier] animated:animated];
+- (NSIndexPath*)indexPathForSpecifier:(PSSpecifier*)specifier {
+    for (NSUInteger section = 0; section < [_sections count]; ++section) {
+        const NSUInteger place = [[_sections objectAtIndex:section] indexOfObjectIdenticalTo:specifier];
+        if (place == NSNotFound || place == 0) continue;
+        return [NSIndexPath indexPathForRow:static_cast<NSInteger>(place) - 1
+                                  inSection:static_cast<NSInteger>(section)];
+    }
+    return nil;
 }
 
-- (void)reloadSpecifierAtIndex:(NSInteger)index animated:(BOOL)animated {
-    [self reloadSpecifier:[self specifierAtIndex:index] animated:animated];
-}
-
-- (BOOL)shouldReloadSpecifiersOnResume {
-    return NO;
+- (PSSpecifier*)specifierAtIndexPath:(NSIndexPath*)path {
+    NSArray* section = [_sections objectAtIndex:static_cast<NSUInteger>([path section])];
+    return [section objectAtIndex:static_cast<NSUInteger>([path row]) + 1];
 }
 
 - (PSTableCell*)cachedCellForSpecifier:(PSSpecifier*)specifier {
     NSIndexPath* path = [self indexPathForSpecifier:specifier];
-    return path ? [_cells objectForKey:path] : nil;
-}
-
-- (PSTableCell*)cachedCellForSpecifierID:(NSString*)identifier {
-    return [self cachedCellForSpecifier:[self specifierForID:identifier]];
-}
-
-#pragma mark Opening
-
-- (void)lazyLoadBundle:(PSSpecifier*)specifier {
-    NSString* path = [specifier propertyForKey:PSLazilyLoadedBundleKey];
-    NSBundle* bundle = path ? [NSBundle bundleWithPath:path] : nil;
-    if (![bundle load]) {
-        NSLog(@"Settings: the bundle at %@ could not be loaded", path);
-        return;
-    }
-    Class paneClass = [bundle principalClass];
-    if ([[specifier propertyForKey:PSBundleOverridePrincipalClassKey] boolValue]) {
-        Class named = objc_getClass([[specifier propertyForKey:PSDetailControllerClassKey] UTF8String]);
-        if (named) paneClass = named;
-    }
-    [specifier setDetailControllerClass:paneClass];
-    [specifier setControllerLoadAction:nullptr];
-    [specifier removePropertyForKey:PSLazilyLoadedBundleKey];
+    return path != nil ? [_cells objectForKey:path] : nil;
 }
 
 - (id)controllerForSpecifier:(PSSpecifier*)specifier {
-    if (SEL load = [specifier controllerLoadAction]) [self performSelector:load withObject:specifier];
-    Class paneClass = [specifier detailControllerClass];
-    if (![paneClass isSubclassOfClass:[PSViewController class]]) return nil;
-    PSViewController* pane = [[[paneClass alloc] init] autorelease];
-    [pane setRootController:[self rootController]];
+    if (NSString* bundle = [specifier propertyForKey:PSLazilyLoadedBundleKey])
+        [specifier setDetailControllerClass:[[NSBundle bundleWithPath:bundle] principalClass]];
+    PSViewController* pane = [[[[specifier detailControllerClass] alloc] init] autorelease];
     [pane setParentController:self];
     [pane setSpecifier:specifier];
     return pane;
 }
 
-- (void)pushController:(id)controller animate:(BOOL)animated {
-    [super pushController:controller animate:animated];
+#pragma mark What the table asks
+
+- (PSSpecifier*)specifierOfGroup:(NSInteger)section {
+    return [[_sections objectAtIndex:static_cast<NSUInteger>(section)] firstObject];
 }
 
-- (void)showController:(id)controller animate:(BOOL)animated {
-    [super showController:controller animate:animated];
+- (NSInteger)numberOfSectionsInTableView:(UITableView*)table {
+    return static_cast<NSInteger>([_sections count]);
 }
 
-- (BOOL)performActionForSpecifier:(PSSpecifier*)specifier {
-    SEL action = [specifier legacyAction];
-    if (!action) return NO;
-    [[specifier target] performSelector:action withObject:specifier];
-    return YES;
+- (NSInteger)tableView:(UITableView*)table numberOfRowsInSection:(NSInteger)section {
+    return static_cast<NSInteger>([[_sections objectAtIndex:static_cast<NSUInteger>(section)] count]) - 1;
 }
 
-- (BOOL)performButtonActionForSpecifier:(PSSpecifier*)specifier {
-    SEL action = [specifier buttonAction];
-    if (!action) return [self performActionForSpecifier:specifier];
-    [[specifier target] performSelector:action withObject:specifier];
-    return YES;
+- (NSString*)tableView:(UITableView*)table titleForHeaderInSection:(NSInteger)section {
+    return [[self specifierOfGroup:section] name];
+}
+
+- (NSString*)tableView:(UITableView*)table titleForFooterInSection:(NSInteger)section {
+    return [[self specifierOfGroup:section] propertyForKey:PSFooterTextGroupKey];
+}
+
+- (UITableViewCell*)tableView:(UITableView*)table cellForRowAtIndexPath:(NSIndexPath*)path {
+    PSSpecifier* specifier = [self specifierAtIndexPath:path];
+    PSTableCell* cell = [_cells objectForKey:path];
+    if (cell == nil) {
+        Class cellClass = [PSTableCell cellClassForType:[specifier cellType]];
+        cell = [[[cellClass alloc] initWithStyle:UITableViewCellStyleValue1
+                                 reuseIdentifier:nil
+                                       specifier:specifier] autorelease];
+        [_cells setObject:cell forKey:path];
+    }
+    [cell refreshCellContentsWithSpecifier:specifier];
+    return cell;
+}
+
+- (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path {
+    [table deselectRowAtIndexPath:path animated:YES];
+    PSSpecifier* specifier = [self specifierAtIndexPath:path];
+    if ([specifier cellType] == PSButtonCell)
+        [specifier performLegacyAction];
+    else if (id pane = [self controllerForSpecifier:specifier])
+        [[self navigationController] pushViewController:pane animated:YES];
 }
 
 @end
 
-@implementation PSEditableListController
-@end
+@implementation PSListItemsController
 
-@implementation PSDetailController
+- (NSArray*)specifiers {
+    if (_specifiers != nil) return _specifiers;
+    NSMutableArray* items = [[NSMutableArray alloc] initWithObjects:[PSSpecifier emptyGroupSpecifier], nil];
+    for (id value in [[self specifier] values]) {
+        PSSpecifier* item =
+            [PSSpecifier preferenceSpecifierNamed:[[[self specifier] titleDictionary] objectForKey:value]
+                                           target:self
+                                              set:nullptr
+                                              get:nullptr
+                                           detail:Nil
+                                             cell:PSListItemCell
+                                             edit:Nil];
+        [item setProperty:value forKey:PSValueKey];
+        [items addObject:item];
+    }
+    _specifiers = items;
+    return _specifiers;
+}
+
+- (UITableViewCell*)tableView:(UITableView*)table cellForRowAtIndexPath:(NSIndexPath*)path {
+    UITableViewCell* cell = [super tableView:table cellForRowAtIndexPath:path];
+    id value = [[self specifierAtIndexPath:path] propertyForKey:PSValueKey];
+    const bool isChosen = [value isEqual:[[self specifier] performGetter]];
+    [cell setAccessoryType:isChosen ? UITableViewCellAccessoryCheckmark : UITableViewCellAccessoryNone];
+    return cell;
+}
+
+- (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path {
+    PSSpecifier* item = [self specifierAtIndexPath:path];
+    [[self specifier] performSetterWithValue:[item propertyForKey:PSValueKey]];
+    [self reload];
+    [static_cast<PSListController*>([self parentController]) reloadSpecifier:[self specifier]];
+}
+
 @end

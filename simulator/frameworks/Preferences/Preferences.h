@@ -1,12 +1,7 @@
 #pragma once
 
-/// Stand-in of the private framework of Settings: panes of rows that are described by specifiers and read and
-/// write preference files. Include this header alone. Main thread.
-#import "Preferences/PSBundleController.h"
-#import "Preferences/PSKeys.h"
+/// Stand-in of the private framework of Settings: panes of rows that specifiers describe, as far as the pane
+/// of an installed tool needs it. Include this header alone. Main thread.
 #import "Preferences/PSListController.h"
-#import "Preferences/PSListItemsController.h"
-#import "Preferences/PSRootController.h"
 #import "Preferences/PSSpecifier.h"
 #import "Preferences/PSTableCell.h"
-#import "Preferences/PSViewController.h"

@@ -7,22 +7,20 @@
 @interface WallpaperAlbumPickerViewController : AlbumPickerViewController
 @end
 
-/// The list of Settings: the system's own rows, then those of installed tools.
+/// The list of Settings: the system's own row, then those of installed tools, as the entry loader of
+/// jailbroken devices makes them from /Library/PreferenceLoader/Preferences. A row whose bundle is missing is
+/// left out.
 @interface PSUIPrefsListController : PSListController
 /// Opens the list of albums for a new wallpaper.
 - (WallpaperAlbumPickerViewController*)openWallpaperPicker;
 @end
 
-/// The navigation of Settings.
-@interface PSUIPrefsRootController : PSRootController
-@end
-
 /// The application object of Settings.
 @interface PreferencesAppController : UIApplication {
-    PSUIPrefsRootController* _controller;
-    PSUIPrefsListController* _list;
+    PSRootController* _rootController;
+    PSUIPrefsListController* _rootListController;
     UIWindow* _window;
 }
-- (id)rootController;
-- (PSUIPrefsListController*)rootListController;
+@property (nonatomic, readonly) PSRootController* rootController;
+@property (nonatomic, readonly) PSUIPrefsListController* rootListController;
 @end

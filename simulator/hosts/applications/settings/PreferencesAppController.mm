@@ -1,38 +1,56 @@
 #import "hosts/applications/settings/PreferencesAppController.h"
 
-#import "hosts/applications/settings/PreferenceLoader.h"
-
 #include "hosts/applications/common/launch.h"
 
-@implementation WallpaperAlbumPickerViewController
-@end
+namespace {
 
-@implementation PSUIPrefsRootController
+// nil for an entry that opens no bundle's pane.
+PSSpecifier* rowOfEntry(NSDictionary* entry) {
+    NSString* bundle = [entry objectForKey:PSBundlePathKey];
+    if (bundle == nil || ![[entry objectForKey:PSBundleIsControllerKey] boolValue]) return nil;
+    NSString* path = [NSString stringWithFormat:@"/Library/PreferenceBundles/%@.bundle", bundle];
+    if (![[NSFileManager defaultManager] fileExistsAtPath:path]) {
+        NSLog(@"Settings: the bundle %@ is missing", path);
+        return nil;
+    }
+    PSSpecifier* row = [PSSpecifier specifierWithDictionary:entry target:nil];
+    [row setProperty:path forKey:PSLazilyLoadedBundleKey];
+    return row;
+}
+
+NSArray* rowsOfInstalledTools() {
+    NSString* folder = @"/Library/PreferenceLoader/Preferences";
+    NSMutableArray* rows = [NSMutableArray array];
+    for (NSString* name in [[NSFileManager defaultManager] subpathsAtPath:folder]) {
+        NSDictionary* file =
+            [NSDictionary dictionaryWithContentsOfFile:[folder stringByAppendingPathComponent:name]];
+        if (PSSpecifier* row = rowOfEntry([file objectForKey:@"entry"])) [rows addObject:row];
+    }
+    return rows;
+}
+
+} // namespace
+
+@implementation WallpaperAlbumPickerViewController
 @end
 
 @implementation PSUIPrefsListController
 
 - (NSArray*)specifiers {
-    if (_specifiers == nil) {
-        PSSpecifier* wallpaper = [PSSpecifier preferenceSpecifierNamed:@"Wallpaper"
-                                                                target:self
-                                                                   set:nullptr
-                                                                   get:nullptr
-                                                                detail:Nil
-                                                                  cell:PSButtonCell
-                                                                  edit:Nil];
-        [wallpaper setButtonAction:@selector(openWallpaperPicker)];
-        NSArray* own = @[ [PSSpecifier emptyGroupSpecifier], wallpaper, [PSSpecifier emptyGroupSpecifier] ];
-        _specifiers = [[own arrayByAddingObjectsFromArray:PLLoadEntries(self)] retain];
+    if (_specifiers != nil) return _specifiers;
+    PSSpecifier* wallpaper = [PSSpecifier specifierWithDictionary:@{
+        PSTableCellClassKey : @"PSButtonCell",
+        PSTitleKey : @"Wallpaper",
+        PSActionKey : @"openWallpaperPicker"
     }
+                                                           target:self];
+    NSArray* own = @[ wallpaper, [PSSpecifier emptyGroupSpecifier] ];
+    _specifiers = [[own arrayByAddingObjectsFromArray:rowsOfInstalledTools()] retain];
     return _specifiers;
 }
 
 - (WallpaperAlbumPickerViewController*)openWallpaperPicker {
     [[self navigationController] popToRootViewControllerAnimated:NO];
-    UIViewController* wallpaper = [[[UIViewController alloc] init] autorelease];
-    [wallpaper setTitle:@"Wallpaper"];
-    [[self navigationController] pushViewController:wallpaper animated:NO];
     WallpaperAlbumPickerViewController* picker =
         [[[WallpaperAlbumPickerViewController alloc] init] autorelease];
     [picker setTitle:@"Choose"];
@@ -44,27 +62,20 @@
 
 @implementation PreferencesAppController
 
+@synthesize rootController = _rootController, rootListController = _rootListController;
+
 - (void)dealloc {
-    [_controller release];
-    [_list release];
+    [_rootController release];
+    [_rootListController release];
     [_window release];
     [super dealloc];
 }
 
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
-    _list = [[PSUIPrefsListController alloc] init];
-    [_list setTitle:@"Settings"];
-    _controller = [[PSUIPrefsRootController alloc] initWithRootViewController:_list];
-    [_list setRootController:_controller];
-    _window = simulator::showRootViewController(_controller);
-}
-
-- (id)rootController {
-    return _controller;
-}
-
-- (PSUIPrefsListController*)rootListController {
-    return _list;
+    _rootListController = [[PSUIPrefsListController alloc] init];
+    [_rootListController setTitle:@"Settings"];
+    _rootController = [[PSRootController alloc] initWithRootViewController:_rootListController];
+    _window = simulator::showRootViewController(_rootController);
 }
 
 @end

@@ -17,20 +17,19 @@ nlohmann::json listWallpapers();
 PSListController* pane();
 
 /// Goes back to the list of Settings and taps the row of an installed tool.
-PSListController* openEntry(const std::string& label);
+void openEntry(const std::string& label);
 
-/// The rows of a pane: [{"group": title or null, "footer": ...}, {"label": "Enabled", "cell": "PSSwitchCell",
-/// "key": ..., "value": ...}].
+/// The groups and rows of a pane: [{"group": title, "footer": text}, {"label": "Enabled", "cell":
+/// "PSSwitchCell", "key": key, "value": number or null}]. Texts that there are not are empty.
 nlohmann::json describePane(PSListController* pane);
 
-/// Changes the control of a row as a user does: true or false for a switch, else a number, text or segment's
-/// value.
-void setControl(const std::string& label, const nlohmann::json& value);
+/// Turns the switch of a row on or off.
+void setControl(const std::string& label, bool on);
 
 /// Taps a row: opens its pane, chooses a value in a list of values, or presses a button.
 void tapRow(const std::string& label);
 
-/// {"do": "listPicker"}, "openEntry" {"label"}, "pane", "setControl" {"label", "value"}, "tapRow" {"label"}.
+/// {"do": "listPicker"}, "openEntry" {"label"}, "setControl" {"label", "value"}, "tapRow" {"label"}.
 void addVerbs();
 
 } // namespace simulator::settings

@@ -15,55 +15,22 @@ PreferencesAppController* application() {
     return static_cast<PreferencesAppController*>([UIApplication sharedApplication]);
 }
 
-json asJson(id value) {
-    if ([value isKindOfClass:[NSString class]]) return text(value);
-    if (![value isKindOfClass:[NSNumber class]]) return nullptr;
-    double number = [value doubleValue];
-    return number == static_cast<double>([value longLongValue]) ? json([value longLongValue]) : json(number);
-}
-
-id asObject(const json& value) {
-    if (value.is_boolean()) return [NSNumber numberWithBool:value.get<bool>() ? YES : NO];
-    if (value.is_number_integer()) return [NSNumber numberWithLongLong:value.get<long long>()];
-    if (value.is_number()) return [NSNumber numberWithDouble:value.get<double>()];
-    if (value.is_string()) return string(value.get<std::string>());
-    throw std::runtime_error("a control cannot be set to " + value.dump());
-}
-
 json describe(PSSpecifier* specifier) {
     if ([specifier cellType] == PSGroupCell)
-        return {{"group", asJson([specifier name])},
-                {"footer", asJson([specifier propertyForKey:PSFooterTextGroupKey])}};
+        return {{"group", text([specifier name])},
+                {"footer", text([specifier propertyForKey:PSFooterTextGroupKey])}};
+    NSNumber* value = [specifier performGetter];
     return {{"label", text([specifier name])},
             {"cell", text([PSTableCell stringFromCellType:[specifier cellType]])},
-            {"key", asJson([specifier propertyForKey:PSKeyNameKey])},
-            {"value", asJson([specifier performGetter])}};
+            {"key", text([specifier propertyForKey:PSKeyNameKey])},
+            {"value", value != nil ? json([value longLongValue]) : json()}};
 }
 
 NSIndexPath* pathOfRow(PSListController* list, const std::string& label) {
-    for (PSSpecifier* specifier in [list specifiers]) {
-        if ([specifier cellType] == PSGroupCell || text([specifier name]) != label) continue;
-        return [list indexPathForSpecifier:specifier];
-    }
+    for (PSSpecifier* specifier in [list specifiers])
+        if ([specifier cellType] != PSGroupCell && text([specifier name]) == label)
+            return [list indexPathForSpecifier:specifier];
     throw std::runtime_error("the pane \"" + text([list title]) + "\" has no row \"" + label + "\"");
-}
-
-void change(PSTableCell* cell, id value) {
-    if ([cell isKindOfClass:[PSSwitchTableCell class]]) {
-        auto control = static_cast<UISwitch*>([static_cast<PSSwitchTableCell*>(cell) control]);
-        [control setOn:[value boolValue] ? YES : NO animated:NO];
-        [control sendActionsForControlEvents:UIControlEventValueChanged];
-    } else if ([cell isKindOfClass:[PSControlTableCell class]]) {
-        auto control = static_cast<PSValueControl*>([static_cast<PSControlTableCell*>(cell) control]);
-        [control setValue:value];
-        [control sendActionsForControlEvents:UIControlEventValueChanged];
-    } else if ([cell isKindOfClass:[PSEditableTableCell class]]) {
-        UITextField* field = [static_cast<PSEditableTableCell*>(cell) textField];
-        [field setText:[value description]];
-        [[field delegate] textFieldDidEndEditing:field];
-    } else {
-        throw std::runtime_error("the row \"" + text([[cell specifier] name]) + "\" has no control");
-    }
 }
 
 } // namespace
@@ -77,13 +44,12 @@ PSListController* pane() {
     return static_cast<PSListController*>(front);
 }
 
-PSListController* openEntry(const std::string& label) {
+void openEntry(const std::string& label) {
     [[application() rootController] popToRootViewControllerAnimated:NO];
     [[application() rootListController] reloadSpecifiers];
     tapRow(label);
     if (pane() == [application() rootListController])
         throw std::runtime_error("the row \"" + label + "\" opened no pane");
-    return pane();
 }
 
 json describePane(PSListController* pane) {
@@ -93,11 +59,14 @@ json describePane(PSListController* pane) {
     return rows;
 }
 
-void setControl(const std::string& label, const json& value) {
+void setControl(const std::string& label, bool on) {
     PSListController* list = pane();
-    PSTableCell* cell = [list tableView:[list table] cellForRowAtIndexPath:pathOfRow(list, label)];
-    if (![cell cellEnabled]) throw std::runtime_error("the row \"" + label + "\" is not enabled");
-    change(cell, asObject(value));
+    UITableViewCell* cell = [list tableView:[list table] cellForRowAtIndexPath:pathOfRow(list, label)];
+    if (![cell isKindOfClass:[PSSwitchTableCell class]])
+        throw std::runtime_error("the row \"" + label + "\" has no switch");
+    UISwitch* control = [static_cast<PSSwitchTableCell*>(cell) control];
+    [control setOn:on ? YES : NO animated:NO];
+    [control sendActionsForControlEvents:UIControlEventValueChanged];
 }
 
 void tapRow(const std::string& label) {
@@ -108,18 +77,16 @@ void tapRow(const std::string& label) {
 
 void addVerbs() {
     registerVerb("listPicker", [](const json&) { return listWallpapers(); });
-    registerVerb("pane", [](const json&) { return describePane(pane()); });
-    registerVerb("openEntry", [](const json& request) {
-        return describePane(openEntry(request.at("label").get<std::string>()));
-    });
-    registerVerb("setControl", [](const json& request) {
-        setControl(request.at("label").get<std::string>(), request.at("value"));
-        return json::object();
-    });
-    registerVerb("tapRow", [](const json& request) {
-        tapRow(request.at("label").get<std::string>());
-        return json::object();
-    });
+    const auto registerAction = [](const char* name, void (*perform)(const json&)) {
+        registerVerb(name, [perform](const json& request) {
+            perform(request);
+            return json::object();
+        });
+    };
+    registerAction("openEntry", [](const json& request) { openEntry(request.at("label")); });
+    registerAction("setControl",
+                   [](const json& request) { setControl(request.at("label"), request.at("value")); });
+    registerAction("tapRow", [](const json& request) { tapRow(request.at("label")); });
 }
 
 } // namespace simulator::settings
