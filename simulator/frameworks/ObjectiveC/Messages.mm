@@ -1,10 +1,18 @@
 #include "device/next_function.h"
+#import "frameworks/ObjectiveC/MainThreadOnly.h"
 #include "frameworks/ObjectiveC/ObjectiveC.h"
 #include "frameworks/ObjectiveC/Presence.h"
 #include "frameworks/ObjectiveC/Replacement.h"
 
 #import <Foundation/Foundation.h>
 #include <objc/message.h>
+#include <pthread.h>
+
+@implementation NSObject (MainThreadOnly)
++ (BOOL)isMainThreadOnly {
+    return NO;
+}
+@end
 
 namespace simulator {
 namespace {
@@ -17,14 +25,26 @@ void raiseUnrecognised(id receiver, SEL, SEL selector) {
                        receiver];
 }
 
+const pthread_t mainThread = pthread_self(); // the simulator is loaded on it
+
 bool overrides(Class cls, SEL selector) {
-    return class_getMethodImplementation(cls, selector) !=
-           class_getMethodImplementation([NSObject class], selector);
+    const auto find = nextFunction<"class_getInstanceMethod", decltype(class_getInstanceMethod)>();
+    Class root = [NSObject class];
+    return find(cls, selector) != find(class_isMetaClass(cls) ? object_getClass(root) : root, selector);
 }
 
 bool forwards(Class cls) {
     return overrides(cls, @selector(forwardInvocation:)) ||
            overrides(cls, @selector(forwardingTargetForSelector:));
+}
+
+void requireMainThread(id receiver, SEL selector) {
+    Class cls = object_getClass(receiver);
+    const bool isClass = class_isMetaClass(cls);
+    if (![isClass ? receiver : cls isMainThreadOnly] || !overrides(cls, selector)) return;
+    [NSException raise:NSInternalInconsistencyException
+                format:@"%c[%s %s] must be used from the main thread only", isClass ? '+' : '-',
+                       object_getClassName(receiver), sel_getName(selector)];
 }
 
 __attribute__((constructor)) void nameClassAndSelectorInTheException() {
@@ -40,6 +60,8 @@ IMP objc_msgLookup(id receiver, SEL selector) {
         simulator::nextFunction<"class_respondsToSelector", decltype(class_respondsToSelector)>();
     if (!simulator::methodIsPresent(cls, selector) || (!responds(cls, selector) && !simulator::forwards(cls)))
         simulator::raiseUnrecognised(receiver, @selector(doesNotRecognizeSelector:), selector);
+    if (!pthread_equal(pthread_self(), simulator::mainThread))
+        simulator::requireMainThread(receiver, selector);
     return objc_msg_lookup(receiver, selector);
 }
 

@@ -1,5 +1,6 @@
 #import "UIKit/UIAlertController.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/UIDevice.h"
 #import "UIKit/UITextField.h"
 #import "UIKit/internal/ControllerState.h"
@@ -31,6 +32,10 @@ struct AlertState {
 @synthesize title = _title;
 @synthesize style = _style;
 @synthesize enabled = _enabled;
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 + (instancetype)actionWithTitle:(NSString*)title
                           style:(UIAlertActionStyle)style

@@ -1,5 +1,6 @@
 #import "UIKit/UIBarButtonItem.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/UIImage.h"
 #import "UIKit/UIView.h"
 #import "UIKit/internal/MainThread.h"
@@ -38,6 +39,10 @@ NSString* titleOf(UIBarButtonSystemItem item) {
 } // namespace
 
 @implementation UIBarItem
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 - (instancetype)init {
     mainThreadOnly(self, _cmd);

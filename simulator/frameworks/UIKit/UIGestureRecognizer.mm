@@ -1,5 +1,6 @@
 #import "UIKit/UIGestureRecognizer.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/UIView.h"
 #import "UIKit/internal/MainThread.h"
 #import "UIKit/internal/RecognizerState.h"
@@ -10,6 +11,10 @@ using simulator::RecognizerState;
 using simulator::Touch;
 
 @implementation UIGestureRecognizer
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 - (instancetype)init {
     return [self initWithTarget:nil action:nullptr];

@@ -1,5 +1,6 @@
 #import "UIKit/UINavigationItem.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/UIView.h"
 #import "UIKit/internal/MainThread.h"
 
@@ -20,6 +21,10 @@ NSArray* copyUnlessEmpty(NSArray* items) { return [items count] > 0 ? [items cop
 } // namespace
 
 @implementation UINavigationItem
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 - (instancetype)initWithTitle:(NSString*)title {
     mainThreadOnly(self, _cmd);

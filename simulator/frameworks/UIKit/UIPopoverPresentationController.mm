@@ -1,11 +1,16 @@
 #import "UIKit/UIPopoverPresentationController.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/UIBarButtonItem.h"
 #import "UIKit/internal/MainThread.h"
 
 using simulator::mainThreadOnly;
 
 @implementation UIPresentationController
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 - (instancetype)initWithPresentedViewController:(UIViewController*)controller {
     mainThreadOnly(self, _cmd);

@@ -1,5 +1,6 @@
 #import "UIKit/UIResponder.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/internal/MainThread.h"
 #import "UIKit/internal/Ownership.h"
 
@@ -14,6 +15,10 @@ simulator::Weak& firstResponder() {
 } // namespace
 
 @implementation UIResponder
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 - (UIResponder*)nextResponder {
     return nil;

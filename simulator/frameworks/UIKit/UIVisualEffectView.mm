@@ -1,8 +1,13 @@
 #import "UIKit/UIVisualEffectView.h"
 
+#import "ObjectiveC/MainThreadOnly.h"
 #import "UIKit/internal/MainThread.h"
 
 @implementation UIVisualEffect
+
++ (BOOL)isMainThreadOnly {
+    return YES;
+}
 
 - (id)copyWithZone:(NSZone*)zone {
     return [self retain];

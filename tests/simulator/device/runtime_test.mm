@@ -1,5 +1,6 @@
 #include "frameworks/ObjectiveC/ObjectiveC.h"
 
+#import "UIKit/UIKit.h"
 #include "device/threads.h"
 #include "simulator/device/device_test.h"
 
@@ -125,6 +126,43 @@ TEST_F(Runtime, unknown_message_is_forwarded_where_the_object_forwards) {
     const SEL length = @selector(length);
     const auto method = reinterpret_cast<NSUInteger (*)(id, SEL)>(objc_msgLookup(object, length));
     EXPECT_EQ(method(object, length), 6u);
+}
+
+TEST_F(Runtime, message_to_what_belongs_to_the_main_thread_raises_on_another) {
+    struct {
+        id receiver;
+        SEL selector;
+        const char* raises;
+    } const messages[] = {
+        {[[UILabel new] autorelease], @selector(frame), "-[UILabel frame]"},
+        {[UIView class],
+         @selector(animateWithDuration:animations:),
+         "+[UIView animateWithDuration:animations:]"},
+        {[[UIViewController new] autorelease], @selector(view), "-[UIViewController view]"},
+        {[UIApplication class], @selector(sharedApplication), "+[UIApplication sharedApplication]"},
+        {[[UITapGestureRecognizer new] autorelease], @selector(view), "-[UITapGestureRecognizer view]"},
+        {[[UIBarButtonItem new] autorelease], @selector(title), "-[UIBarButtonItem title]"},
+        {[[UINavigationItem new] autorelease], @selector(title), "-[UINavigationItem title]"},
+        {[[UILabel new] autorelease], @selector(retain), nullptr},
+        {[UIColor class], @selector(blackColor), nullptr},
+        {[UIFont class], @selector(systemFontOfSize:), nullptr},
+        {[UIImage class], @selector(imageWithData:), nullptr},
+    };
+    for (const auto& message : messages) {
+        const auto lookUp = [&] { objc_msgLookup(message.receiver, message.selector); };
+        EXPECT_EQ(exceptionOf(lookUp), "");
+        std::string raised;
+        std::thread([&] {
+            registerThread();
+            @autoreleasepool {
+                raised = exceptionOf(lookUp);
+            }
+        }).join();
+        EXPECT_EQ(raised, message.raises == nullptr
+                              ? std::string()
+                              : std::string("NSInternalInconsistencyException: ") + message.raises +
+                                    " must be used from the main thread only");
+    }
 }
 
 TEST_F(Runtime, class_made_at_run_time_inherits) {
