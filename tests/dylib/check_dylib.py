@@ -1,167 +1,217 @@
 #!/usr/bin/env python3
 """Holds the phone's library against what a device needs of it: check_dylib.py LIBRARY ALLOWED_IMPORTS.
 
-Prints every fault in a sentence and fails if there is one.
+Prints every fault in a sentence and fails if there is one. What the file says is read with llvm-objdump and, where that
+says nothing, by hand: nothing here shares code with what builds, signs or loads the library.
 """
 
+import hashlib
+import re
+import struct
+import subprocess
 import sys
+import tempfile
 
-from mach_o import Damaged, Library, signature_faults, unpack, version
-
-INSTALL_NAME = "/Library/MobileSubstrate/DynamicLibraries/rollkeeper.dylib"
 LARGEST_SIZE = 128 * 1024
+FRAMEWORKS = "/System/Library/Frameworks"
 
 # Install name: (compatibility version, weak). A greater version than the device's makes its loader refuse; what came
-# with iOS 8 must be weak, so that iOS 7 loads the library.
-FRAMEWORKS = "/System/Library/Frameworks"
-DEPENDENCIES = {
-    f"{FRAMEWORKS}/Foundation.framework/Foundation": ("300.0", False),
-    f"{FRAMEWORKS}/CoreFoundation.framework/CoreFoundation": ("150.0", False),
-    f"{FRAMEWORKS}/UIKit.framework/UIKit": ("1.0", False),
-    f"{FRAMEWORKS}/Photos.framework/Photos": ("1.0", True),
-    f"{FRAMEWORKS}/LocalAuthentication.framework/LocalAuthentication": ("1.0", True),
-    "/System/Library/PrivateFrameworks/AppSupport.framework/AppSupport": ("1.0", False),
-    "/usr/lib/libobjc.A.dylib": ("1.0", False),
-    "/usr/lib/libSystem.B.dylib": ("1.0", False),
-    "/Library/Frameworks/CydiaSubstrate.framework/CydiaSubstrate": ("0.0", False),
-    "/usr/lib/librocketbootstrap.dylib": ("0.0", False),
+# with iOS 8 must be weak, so that iOS 7 loads the file.
+EVERYWHERE = {
+    f"{FRAMEWORKS}/Foundation.framework/Foundation": ("300.0.0", False),
+    f"{FRAMEWORKS}/CoreFoundation.framework/CoreFoundation": ("150.0.0", False),
+    f"{FRAMEWORKS}/UIKit.framework/UIKit": ("1.0.0", False),
+    f"{FRAMEWORKS}/Photos.framework/Photos": ("1.0.0", True),
+    f"{FRAMEWORKS}/LocalAuthentication.framework/LocalAuthentication": ("1.0.0", True),
+    "/usr/lib/libobjc.A.dylib": ("1.0.0", False),
+    "/usr/lib/libSystem.B.dylib": ("1.0.0", False),
 }
-
-# Load commands that a system before iOS 13.4 does not know, or that no library of ours has a use for.
-FORBIDDEN_COMMANDS = {
-    0x80000034: "chained fix-ups",
-    0x80000033: "an exports trie of its own",
-    0x32: "a build version in place of a minimum iOS version",
-    0x21: "encrypted content",
-    0x2C: "encrypted content",
-    0x8000001C: "a search path for libraries",
+LIBRARY = {
+    "file type": "6",
+    "install name": ["/Library/MobileSubstrate/DynamicLibraries/rollkeeper.dylib"],
+    "initialisers": 2,
+    "dependencies": EVERYWHERE
+    | {
+        "/System/Library/PrivateFrameworks/AppSupport.framework/AppSupport": ("1.0.0", False),
+        "/Library/Frameworks/CydiaSubstrate.framework/CydiaSubstrate": ("0.0.0", False),
+        "/usr/lib/librocketbootstrap.dylib": ("0.0.0", False),
+    },
 }
-FORBIDDEN_SECTIONS = {
-    0x0A: "terminators",
-    0x16: "initialisers as offsets",
-    **{kind: "thread-local variables" for kind in range(0x11, 0x16)},
+# Those that every system since iOS 7 knows and that a library of ours has a use for.
+COMMANDS = {
+    *("LC_SEGMENT_64", "LC_DYLD_INFO_ONLY", "LC_SYMTAB", "LC_DYSYMTAB", "LC_ID_DYLIB", "LC_UUID", "LC_LOAD_DYLIB"),
+    *("LC_VERSION_MIN_IPHONEOS", "LC_LOAD_WEAK_DYLIB", "LC_FUNCTION_STARTS", "LC_DATA_IN_CODE", "LC_CODE_SIGNATURE"),
 }
-INITIALISER_POINTERS = 0x09
-# Without a frame, described by DWARF, with a frame.
-UNWIND_MODES = (2, 3, 4)
+INITIALISERS = 0x09
+# Content, zeros, literals, pointers to imports and stubs for them: no terminators, no thread-local variables.
+SECTION_TYPES = {0x00, 0x01, 0x02, 0x03, 0x04, 0x0E, 0x06, 0x07, 0x08, INITIALISERS}
+# How the pages of a code directory may be hashed, by the number that says so. Each must be there once.
+HASHES = {2: "sha256"}
 
 
-def header_faults(library):
-    if library.cpu_type != 0x0100000C:
-        yield f"the CPU type is {library.cpu_type:#x}, not arm64"
-    if library.cpu_subtype != 0:
-        yield f"the CPU subtype is {library.cpu_subtype:#x}, not that of every arm64 device"
-    if library.file_type != 6:
-        yield "it is not a dynamic library"
-    if not library.flags & 0x80:
+class Damaged(Exception):
+    """The file cannot be read as what it claims to be."""
+
+
+def output_of(*command):
+    """What a tool says about a file; Damaged when it cannot read it."""
+    result = subprocess.run(command, capture_output=True, check=False)
+    if result.returncode != 0:
+        raise Damaged(result.stderr.decode().strip())
+    return result.stdout
+
+
+class Image:
+    TABLES = ("--private-headers", "--bind", "--lazy-bind", "--weak-bind", "--exports-trie", "--unwind-info")
+
+    def __init__(self, data):
+        with tempfile.NamedTemporaryFile() as file:
+            file.write(data)
+            file.flush()
+            text = output_of("llvm-objdump-19", "--macho", "--non-verbose", *self.TABLES, file.name).decode()
+        self.data = data
+        headers, *blocks = re.split(r"^(?=Load command|Section\n)", text, flags=re.M)
+        self.header = dict(zip(*(line.split() for line in headers.splitlines()[-2:])))
+        fields = [dict(re.findall(r"^ *([a-z]\w*(?: version)?) (\S+)", block, re.M)) for block in blocks]
+        self.commands = [each for each in fields if "cmd" in each]
+        self.sections = [each for each in fields if "sectname" in each]
+        self.bind_rows = re.findall(r"^__.*", text, re.M)
+        self.binds = re.findall(r"^__\w+ +\S+ +0x\w+ (?:pointer +-?\d+ )? *(\S+) +(\S+)", text, re.M)
+        self.exports = re.findall(r"^0x\w+ +(\S+)$", text, re.M)
+        self.unwinding = re.findall(r"function offset=(\w+), encoding(?:\[\d+\])?=(\w+)", text)
+
+    def of(self, *kinds):
+        return [command for command in self.commands if command["cmd"] in kinds]
+
+
+def header_faults(image, expected):
+    wanted = {"cputype": str(0x0100000C), "cpusubtype": "0", "filetype": expected["file type"]}
+    for field, value in wanted.items():
+        if image.header[field] != value:
+            yield f"its {field} is {image.header[field]}, not {value}"
+    if not int(image.header["flags"], 16) & 0x80:
         yield "its imports do not name their libraries"
-    if len(library.data) > LARGEST_SIZE:
-        yield f"it has {len(library.data)} bytes, more than {LARGEST_SIZE}"
+    if len(image.data) > LARGEST_SIZE:
+        yield f"it has {len(image.data)} bytes, more than {LARGEST_SIZE}"
 
 
-def command_faults(library):
-    for kind, what in FORBIDDEN_COMMANDS.items():
-        if library.command_offsets(kind):
-            yield f"it has {what}"
-    if library.name() != [INSTALL_NAME]:
-        yield f"its install name is {library.name()}"
-    minimum = [version(unpack("<I", library.data, offset + 8)[0]) for offset in library.command_offsets(0x25)]
+def command_faults(image, expected):
+    for kind in sorted({command["cmd"] for command in image.commands} - COMMANDS):
+        yield f"it has {kind}"
+    names = [command["name"] for command in image.of("LC_ID_DYLIB")]
+    if names != expected["install name"]:
+        yield f"its install name is {names}"
+    minimum = [command["version"] for command in image.of("LC_VERSION_MIN_IPHONEOS")]
     if minimum != ["7.0"]:
         yield f"its minimum iOS version is {minimum}, not 7.0"
-    if len(library.command_offsets(0x80000022)) != 1:
-        yield "it has no classic fix-ups"
+    for segment in image.of("LC_SEGMENT_64"):
+        if int(segment["vmaddr"], 16) % 0x4000 or int(segment["initprot"], 16) & 6 == 6:
+            yield f"the segment {segment['segname']} is not on 16 KiB pages, or can be written and executed"
 
 
-def segment_faults(library):
-    for name, address, _, _, _, protection in library.segments():
-        if address % 0x4000:
-            yield f"the segment {name} does not start on a 16 KiB page"
-        if protection & 2 and protection & 4:
-            yield f"the segment {name} can be written and executed"
+def dependency_faults(image, expected):
+    found = {
+        command["name"]: (command["compatibility version"], command["cmd"] == "LC_LOAD_WEAK_DYLIB")
+        for command in image.of("LC_LOAD_DYLIB", "LC_LOAD_WEAK_DYLIB")
+    }
+    for name in sorted(found.keys() | expected["dependencies"].keys()):
+        wanted = expected["dependencies"].get(name)
+        if found.get(name) != wanted:
+            yield f"it links {name} as (compatibility version, weak) {found.get(name)}, not {wanted}"
 
 
-def dependency_faults(library):
-    found = {one.name: (one.compatibility, one.weak) for one in library.dependencies()}
-    for name in sorted(found.keys() | DEPENDENCIES.keys()):
-        if name not in found:
-            yield f"it does not link {name}"
-        elif name not in DEPENDENCIES:
-            yield f"it links {name}"
-        elif found[name] != DEPENDENCIES[name]:
-            yield f"it links {name} as (compatibility version, weak) {found[name]}, not {DEPENDENCIES[name]}"
-
-
-def import_faults(library, allowed):
-    imports = set(library.imports())
+def import_faults(image, expected, allowed):
+    names = {name.rsplit("/", 1)[-1].split(".")[0]: name for name in expected["dependencies"]}
+    imports = {(symbol, names.get(library, library)) for library, symbol in image.binds}
     for symbol, origin in sorted(imports - allowed):
         yield f"it imports {symbol} from {origin}, which the list does not allow"
     for symbol, origin in sorted(allowed - imports):
         yield f"the list allows {symbol} from {origin}, which it does not import"
-    names = {symbol for symbol, _ in imports}
-    for symbol in sorted(library.bound_symbols() ^ names):
-        yield f"{symbol} is only in one of the symbol table and the binds"
-    for symbol in library.exported_symbols():
+    for symbol in image.exports:
         yield f"it exports {symbol}"
+    if len(image.bind_rows) != len(image.binds):
+        yield "it has weak definitions"
 
 
-def section_faults(library):
+def section_faults(image, expected):
     initialisers = 0
-    names = set()
-    for section in library.sections():
-        names.add(section.name)
-        if section.type in FORBIDDEN_SECTIONS:
-            yield f"it has {FORBIDDEN_SECTIONS[section.type]} ({section.name})"
-        if section.type == INITIALISER_POINTERS:
-            initialisers += section.size // 8
-        if section.name.startswith("__objc_"):
-            yield f"it has metadata of an Objective-C compiler ({section.name})"
-    if initialisers != 2:
-        yield f"it has {initialisers} initialisers instead of two"
-    if "__unwind_info" not in names:
-        yield "it has no unwind information"
+    for section in image.sections:
+        kind = int(section["flags"], 16) & 0xFF
+        if kind not in SECTION_TYPES or section["sectname"].startswith("__objc_"):
+            yield f"it has the section {section['sectname']} of type {kind:#x}"
+        if kind == INITIALISERS:
+            initialisers += int(section["size"], 16) // 8
+    if initialisers != expected["initialisers"]:
+        yield f"it has {initialisers} initialisers instead of {expected['initialisers']}"
 
 
-def unwind_faults(library):
+def unwind_faults(image):
     """Exceptions of the host pass through every function, so each must say how to leave it."""
-    for offset, encoding in library.unwind_entries():
-        if encoding >> 24 & 0x0F not in UNWIND_MODES:
-            yield f"the function at {offset:#x} cannot be unwound (encoding {encoding:#x})"
+    if not image.unwinding:
+        yield "it has no unwind information"
+    for offset, encoding in image.unwinding:
+        if int(encoding, 16) >> 24 & 0x0F not in (2, 4):  # without and with a frame
+            yield f"the function at {offset} cannot be unwound (encoding {encoding})"
+
+
+def signature_faults(image):
+    for command in image.of("LC_CODE_SIGNATURE"):
+        start, size = int(command["dataoff"]), int(command["datasize"])
+        if start + size != len(image.data):
+            yield "the code signature does not end with the file"
+        magic, length, count = struct.unpack_from(">3I", image.data, start)
+        if magic != 0xFADE0CC0 or length > size:
+            yield "the code signature is damaged"
+            return
+        blobs = [struct.unpack_from(">II", image.data, start + 12 + 8 * index) for index in range(count)]
+        directories = [start + offset for slot, offset in blobs if slot == 0 or slot >> 12 == 1]
+        kinds = [image.data[directory + 37] for directory in directories]
+        if sorted(kinds) != sorted(HASHES):
+            yield f"its pages are hashed as {kinds}, not as {sorted(HASHES)}"
+        for directory in directories:
+            yield from directory_faults(image.data, directory, start)
+    if len(image.of("LC_CODE_SIGNATURE")) != 1:
+        yield "it has no code signature"
+
+
+def directory_faults(data, directory, limit):
+    (magic, _, _, flags, hashes, identifier, _, count, code_limit, hash_size, kind, _, page_bits) = struct.unpack_from(
+        ">9I4B", data, directory
+    )
+    if magic != 0xFADE0C02 or not flags & 0x2 or not data[directory + identifier]:
+        yield "the code directory is damaged, not ad hoc or without an identifier"
+    pages = [data[start : min(start + (1 << page_bits), limit)] for start in range(0, limit, 1 << page_bits)]
+    if (code_limit, count) != (limit, len(pages)):
+        yield f"the code signature covers {code_limit} bytes in {count} pages instead of {limit} in {len(pages)}"
+    for index, page in enumerate(pages):
+        stored = data[directory + hashes + hash_size * index :][:hash_size]
+        if kind in HASHES and hashlib.new(HASHES[kind], page).digest() != stored:
+            yield f"page {index} is not what was signed"
 
 
 def allowed_imports(path):
     with open(path, encoding="utf-8") as lines:
-        entries = [line.split() for line in lines if line.strip() and not line.startswith("#")]
-    for entry in entries:
-        if len(entry) != 2:
-            raise Damaged(f"{path}: not a symbol and a library: {' '.join(entry)}")
-    return {(symbol, origin) for symbol, origin in entries}
+        return {tuple(line.split()) for line in lines if line.strip() and not line.startswith("#")}
 
 
-def faults(data, allowed):
-    """Every fault of a library, given its content; a file that cannot be read is one fault."""
+def faults(data, expected, allowed):
+    """Every fault of a binary, given its content; a file that cannot be read is one fault."""
     try:
-        library = Library(data)
-        checks = (header_faults, command_faults, segment_faults, dependency_faults, section_faults, unwind_faults)
-        found = [fault for check in checks for fault in check(library)]
-        return found + list(import_faults(library, allowed)) + list(signature_faults(library))
-    except Damaged as problem:
-        return [str(problem)]
+        image = Image(data)
+        checks = (header_faults, command_faults, dependency_faults, section_faults)
+        found = [fault for check in checks for fault in check(image, expected)]
+        return found + [*import_faults(image, expected, allowed), *unwind_faults(image), *signature_faults(image)]
+    except (Damaged, IndexError, KeyError, TypeError, ValueError, struct.error) as problem:
+        return [f"it cannot be read: {problem!r}"]
 
 
-def main(arguments):
-    if len(arguments) != 2:
-        print(__doc__.strip(), file=sys.stderr)
-        return 2
-    try:
-        with open(arguments[0], "rb") as file:
-            found = faults(file.read(), allowed_imports(arguments[1]))
-    except (OSError, Damaged) as problem:
-        print(f"check_dylib: {problem}", file=sys.stderr)
-        return 2
+def main(library, allowed):
+    with open(library, "rb") as file:
+        found = faults(file.read(), LIBRARY, allowed_imports(allowed))
     for fault in found:
-        print(f"{arguments[0]}: {fault}")
+        print(f"{library}: {fault}")
     return 1 if found else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    sys.exit(main(*sys.argv[1:]))

@@ -1,373 +1,172 @@
 #!/usr/bin/env python3
-"""Holds the installable package against what a phone needs of it: check_package.py PACKAGE SETTINGS ALLOWED_IMPORTS.
+"""Holds the installable package against what a phone needs of it: check_package.py PACKAGE ALLOWED_IMPORTS.
 
-SETTINGS is the table of preference keys, ALLOWED_IMPORTS that of the library's imports. Prints every fault in a
-sentence and fails if there is one.
+Prints every fault in a sentence and fails if there is one. What
+the pages of settings say is held by the tests of the pane, which show and change them.
 """
 
+import email
+import io
 import os
 import plistlib
 import re
 import struct
 import sys
-
-from archive import Damaged, Package
+import tarfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "dylib"))
-import check_dylib  # noqa: E402
-import mach_o  # noqa: E402
+from check_dylib import EVERYWHERE, FRAMEWORKS, LIBRARY, Damaged, allowed_imports, output_of  # noqa: E402
+from check_dylib import faults as binary_faults  # noqa: E402
 
-LIBRARY = "/Library/MobileSubstrate/DynamicLibraries/rollkeeper.dylib"
+DYLIB = "/Library/MobileSubstrate/DynamicLibraries/rollkeeper.dylib"
 FILTER = "/Library/MobileSubstrate/DynamicLibraries/rollkeeper.plist"
 ENTRY = "/Library/PreferenceLoader/Preferences/Rollkeeper/Rollkeeper.plist"
 BUNDLE = "/Library/PreferenceBundles/RollkeeperPreferences.bundle"
 EXECUTABLE = f"{BUNDLE}/RollkeeperPreferences"
 RESOURCES = "/Library/Application Support/rollkeeper"
-PICTURES = {"album": 28, "move": 22, "greenlock": 22, "whitelock": 50, "padlock": 180}  # points, square
-ICON_POINTS = 29
-
+PICTURES = {  # points, square
+    **{f"{RESOURCES}/album": 28, f"{RESOURCES}/move": 22, f"{RESOURCES}/greenlock": 22},
+    **{f"{RESOURCES}/whitelock": 50, f"{RESOURCES}/padlock": 180, f"{BUNDLE}/icon": 29},
+}
 CONTROL = {"Package": "com.nrv.rollkeeper", "Architecture": "iphoneos-arm"}
-NEEDED = ("mobilesubstrate", "com.rpetrich.rocketbootstrap", "preferenceloader")
-EXECUTABLES = {LIBRARY, EXECUTABLE}
+NEEDED = {"mobilesubstrate", "com.rpetrich.rocketbootstrap", "preferenceloader", "firmware (>= 7.0)"}
 SCRIPTS = {"/postinst", "/postrm"}
 
-# Which kinds of row store something, and as what.
-VALUE_CELLS = {"PSSwitchCell": bool, "PSLinkListCell": int}
-TYPES = {"boolean": bool, "integer": int}
-# The classes that the pane's executable makes at run time, and those of the framework.
-PANE_CLASSES = {"RollkeeperPage", "RollkeeperAlbumsPage", "RollkeeperLockingPage"}
-FRAMEWORK_CLASSES = {"PSListItemsController"}
-# Texts of the pane's code, in its executable rather than in a property list.
-TEXT_KEY = re.compile(rb"[a-zA-Z]+(?:\.[a-zA-Z0-9]+)+")
-PLAIN_TEXTS = {"ok", "cancel", "save", "remove"}
+PANE = {
+    "file type": "8",
+    "install name": [],
+    "initialisers": 1,
+    "dependencies": EVERYWHERE
+    | {"/System/Library/PrivateFrameworks/Preferences.framework/Preferences": ("1.0.0", False)},
+    "imports": {
+        ("_CFNotificationCenterPostNotification", f"{FRAMEWORKS}/CoreFoundation.framework/CoreFoundation"),
+        ("_ivar_getOffset", "/usr/lib/libobjc.A.dylib"),
+    },
+}
 
-PANE_DEPENDENCIES = {
-    f"{check_dylib.FRAMEWORKS}/Foundation.framework/Foundation",
-    f"{check_dylib.FRAMEWORKS}/CoreFoundation.framework/CoreFoundation",
-    f"{check_dylib.FRAMEWORKS}/UIKit.framework/UIKit",
-    f"{check_dylib.FRAMEWORKS}/Photos.framework/Photos",
-    f"{check_dylib.FRAMEWORKS}/LocalAuthentication.framework/LocalAuthentication",
-    "/System/Library/PrivateFrameworks/Preferences.framework/Preferences",
-    "/usr/lib/libobjc.A.dylib",
-    "/usr/lib/libSystem.B.dylib",
-}
-PANE_WEAK = {"Photos", "LocalAuthentication"}
-# What the pane imports beside what the library may import.
-PANE_IMPORTS = {
-    ("_CFNotificationCenterPostNotification", f"{check_dylib.FRAMEWORKS}/CoreFoundation.framework/CoreFoundation"),
-    ("_ivar_getOffset", "/usr/lib/libobjc.A.dylib"),
-}
+
+class Package:
+    """The files of a package and its control files: path to (tar entry, content)."""
+
+    def __init__(self, path):
+        names = output_of("llvm-ar-19", "t", path).split()
+        if names != [b"debian-binary", b"control.tar.gz", b"data.tar.gz"]:
+            raise Damaged(f"it is not a package of format 2.0: {names}")
+        self.control_files, self.files = (self.entries(path, name) for name in names[1:])
+
+    @staticmethod
+    def entries(path, name):
+        with tarfile.open(fileobj=io.BytesIO(output_of("llvm-ar-19", "p", path, name))) as archive:
+            contents = [(each, archive.extractfile(each).read() if each.isfile() else b"") for each in archive]
+        return {each.name.removeprefix(".").rstrip("/") or "/": (each, content) for each, content in contents}
+
+    def field(self, name):
+        return email.message_from_bytes(self.control_files["/control"][1])[name]
+
+    def content(self, path):
+        if path not in self.files:
+            raise Damaged(f"{path} is missing")
+        return self.files[path][1]
+
+    def property_list(self, path):
+        try:
+            return plistlib.loads(self.content(path))
+        except Exception as problem:  # the parser's own, which differ between versions
+            raise Damaged(f"{path} is no property list: {problem}") from problem
 
 
 def control_faults(package):
     for field, wanted in CONTROL.items():
-        if package.control.get(field) != wanted:
-            yield f"the control file's {field} is {package.control.get(field)}, not {wanted}"
-    for field in ("Version", "Name", "Maintainer", "Description", "Section", "Installed-Size"):
-        if not package.control.get(field):
+        if package.field(field) != wanted:
+            yield f"the control file's {field} is {package.field(field)}, not {wanted}"
+    for field in ("Version", "Name", "Maintainer", "Description", "Section"):
+        if not package.field(field):
             yield f"the control file has no {field}"
-    depends = [part.strip() for part in package.control.get("Depends", "").split(",")]
-    for needed in NEEDED:
-        if needed not in depends:
-            yield f"it does not depend on {needed}"
-    if not any(re.fullmatch(r"firmware \(>= \d+\.\d+\)", part) for part in depends):
-        yield "it names no first firmware"
-    sizes = [len(content) for _, content in package.entries.values() if content is not None]
-    size = sum((length + 1023) // 1024 for length in sizes)
-    if package.control.get("Installed-Size") != str(size):
-        yield f"its Installed-Size is {package.control.get('Installed-Size')} instead of {size}"
-    for path in package.control_entries:
-        if path not in SCRIPTS | {"/", "/control"}:
-            yield f"the control file {path} has no use"
-
-
-def mode_faults(path, entry, executable):
-    wanted = 0o755 if entry.isdir() or executable else 0o644
-    if not (entry.isdir() or entry.isfile()):
-        yield f"{path} is neither a file nor a folder"
-    elif entry.mode != wanted:
-        yield f"{path} has the mode {entry.mode:o} instead of {wanted:o}"
-    if (entry.uid, entry.gid) != (0, 0):
-        yield f"{path} belongs to {entry.uid}:{entry.gid}, not to root"
+    for missing in NEEDED - set(package.field("Depends").split(", ")):
+        yield f"it does not depend on {missing}"
+    size = sum((len(content) + 1023) // 1024 for _, content in package.files.values())
+    if package.field("Installed-Size") != str(size):
+        yield f"its Installed-Size is {package.field('Installed-Size')} instead of {size}"
+    if set(package.control_files) != SCRIPTS | {"/", "/control"}:
+        yield f"its control files are {sorted(package.control_files)}"
+    for name in SCRIPTS & set(package.control_files):
+        text = package.control_files[name][1].decode("utf-8")
+        more = re.search(r"\b(killall|kill|sbreload|respring|launchctl|rm|reboot)\b", text)
+        if more or not text.startswith("#!/bin/sh\n"):
+            yield f"{name} is no shell script or does more than to ask the package manager"
 
 
 def entry_faults(package):
-    for path, (entry, _) in package.entries.items():
-        yield from mode_faults(path, entry, path in EXECUTABLES)
-        if path != "/" and path != "/Library" and not path.startswith("/Library/"):
-            yield f"{path} is not below /Library"
-        if path.rsplit("/", 1)[-1].startswith(".") or path.endswith("~"):
-            yield f"{path} does not belong into a package"
-    for path, (entry, _) in package.control_entries.items():
-        yield from mode_faults(path, entry, path in SCRIPTS)
-    dates = {entry.mtime for entries in (package.entries, package.control_entries) for entry, _ in entries.values()}
-    if len(dates) != 1:
-        yield "its files have different dates"
-
-
-def script_faults(package):
-    for name in sorted(SCRIPTS):
-        text = package.control_content(name[1:]).decode("utf-8")
-        if not text.startswith("#!/bin/sh\n"):
-            yield f"{name} is no shell script"
-        if re.search(r"\b(killall|kill|sbreload|respring|launchctl|rm|reboot)\b", text):
-            yield f"{name} does more than to ask the package manager"
+    for path, (entry, _) in [*package.files.items(), *package.control_files.items()]:
+        wanted = 0o755 if entry.isdir() or path in {DYLIB, EXECUTABLE, *SCRIPTS} else 0o644
+        if not (entry.isdir() or entry.isfile()) or entry.mode != wanted:
+            yield f"{path} is no file or has the mode {entry.mode:o} instead of {wanted:o}"
+        if (entry.uid, entry.gid) != (0, 0):
+            yield f"{path} belongs to {entry.uid}:{entry.gid}, not to root"
+        if entry.mtime != package.files["/"][0].mtime:
+            yield f"{path} has a date of its own"
+    for path in package.files:
+        if not re.fullmatch(r"/|/Library(/[^./][^/]*(?<!~))*", path):
+            yield f"{path} does not belong into the package"
 
 
 def picture_faults(package):
-    wanted = {f"{RESOURCES}/{name}": points for name, points in PICTURES.items()}
-    wanted[f"{BUNDLE}/icon"] = ICON_POINTS
-    for stem, points in wanted.items():
+    for stem, points in PICTURES.items():
         for scale, ending in ((1, ""), (2, "@2x"), (3, "@3x")):
             data = package.content(f"{stem}{ending}.png")
-            if data[:8] != b"\x89PNG\r\n\x1a\n":
-                yield f"{stem}{ending}.png is no PNG picture"
-                continue
-            size = struct.unpack(">II", data[16:24])
-            if size != (points * scale, points * scale):
-                yield f"{stem}{ending}.png has {size[0]} x {size[1]} pixels instead of {points * scale} squared"
+            wanted = b"\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR" + struct.pack(">II", points * scale, points * scale)
+            if not data.startswith(wanted):
+                yield f"{stem}{ending}.png is no picture of {points * scale} pixels squared"
 
 
-def property_list(package, path):
-    try:
-        return plistlib.loads(package.content(path))
-    except (plistlib.InvalidFileException, ValueError, OverflowError) as problem:
-        raise Damaged(f"{path} is no property list: {problem}") from problem
-    except Exception as problem:  # the parser's own, which differ between versions
-        raise Damaged(f"{path} is no property list: {problem}") from problem
-
-
-def injection_faults(package):
-    content = property_list(package, FILTER)
+def list_faults(package):
+    content = package.property_list(FILTER)
     if content != {"Filter": {"Bundles": ["com.apple.UIKit"]}}:
         yield f"the filter is {content}, not every process with UIKit"
-
-
-def entry_list_faults(package):
-    entry = property_list(package, ENTRY).get("entry", {})
-    wanted = {"cell": "PSLinkCell", "bundle": os.path.basename(BUNDLE).removesuffix(".bundle"), "isController": True}
-    for key, value in wanted.items():
-        if entry.get(key) != value:
-            yield f"the entry's {key} is {entry.get(key)}, not {value}"
-    if f"{BUNDLE}/{entry.get('icon')}" not in package.entries:
-        yield f"the entry's icon {entry.get('icon')} is missing"
-    if not entry.get("label"):
-        yield "the entry has no label"
-
-
-def information_faults(package):
-    content = property_list(package, f"{BUNDLE}/Info.plist")
-    if f"{BUNDLE}/{content.get('CFBundleExecutable')}" != EXECUTABLE:
-        yield f"the bundle's executable is {content.get('CFBundleExecutable')}"
-    if content.get("CFBundlePackageType") != "BNDL":
-        yield f"the bundle's type is {content.get('CFBundlePackageType')}"
-    if content.get("NSPrincipalClass") not in PANE_CLASSES:
-        yield f"the bundle's principal class is {content.get('NSPrincipalClass')}"
-    for field in ("CFBundleShortVersionString", "CFBundleVersion"):
-        if content.get(field) != package.control.get("Version"):
-            yield f"the bundle's {field} is {content.get(field)}, not the package's version"
-
-
-class Pane:
-    """The pages of the bundle: name to list of rows."""
-
-    def __init__(self, package):
-        self.pages = {}
-        for path in package.entries:
-            name = re.fullmatch(re.escape(BUNDLE) + r"/(\w+)\.plist", path)
-            if name and name[1] != "Info":
-                self.pages[name[1]] = property_list(package, path)["items"]
-
-    def rows(self):
-        for name, rows in self.pages.items():
-            for row in rows:
-                yield name, row
-
-
-def reachable_pages(pane):
-    pending, found = ["Root"], set()
-    while pending:
-        name = pending.pop()
-        if name in found or name not in pane.pages:
-            continue
-        found.add(name)
-        pending += [row["page"] for row in pane.pages[name] if "page" in row]
-    return found
-
-
-def page_faults(pane):
-    for name in sorted(set(pane.pages) - reachable_pages(pane)):
-        yield f"no row leads to the page {name}"
-    for name, row in pane.rows():
-        where = f"{name}: the row {row.get('label')}"
-        if row.get("page", "Root") not in pane.pages:
-            yield f"{where} leads to the page {row['page']}, which is missing"
-        if row.get("detail", "RollkeeperPage") not in PANE_CLASSES | FRAMEWORK_CLASSES:
-            yield f"{where} opens a {row['detail']}, which nobody has"
-        if row.get("cell") == "PSLinkCell" and not {"detail", "page"} <= set(row):
-            yield f"{where} leads nowhere"
-        if "defaults" in row or "PostNotification" in row:
-            yield f"{where} would be stored by the framework, past the pane"
-
-
-def value_faults(pane, settings):
-    seen = {}
-    for name, row in pane.rows():
-        if "key" not in row:
-            if row.get("cell") in VALUE_CELLS:
-                yield f"{name}: the row {row.get('label')} has no key"
-            continue
-        key = row["key"]
-        if key in seen:
-            yield f"{key} has two rows"
-        seen[key] = row
-        if key not in settings:
-            yield f"{key} is no key that has an effect"
-            continue
-        kind, default = settings[key]
-        if VALUE_CELLS.get(row.get("cell")) is not kind or type(row.get("default")) is not kind:
-            yield f"{key} is not shown and stored as {kind.__name__}"
-        elif row["default"] != default:
-            yield f"{key} is shown as {row['default']} while it is not set, and is {default}"
-        if "validValues" in row:
-            yield from choice_faults(key, row)
-    for key in settings:
-        if key not in seen:
-            yield f"{key} has no row"
-
-
-def choice_faults(key, row):
-    values, titles = row["validValues"], row.get("validTitles", [])
-    if len(values) != len(titles) or len(set(values)) != len(values):
-        yield f"the values and titles of {key} do not match"
-    if any(type(value) is not int for value in values):
-        yield f"{key} offers what is no integer"
-    if row["default"] not in values:
-        yield f"{key} does not offer its default"
-
-
-def texts(package, path):
-    """The entries of a strings file."""
-    try:
-        content = package.content(path).decode("utf-8")
-    except UnicodeDecodeError as problem:
-        raise Damaged(f"{path} is not UTF-8: {problem}") from problem
-    content = re.sub(r"/\*.*?\*/", "", content, flags=re.S)
-    entry = re.compile(r'\s*"((?:[^"\\]|\\.)*)"\s*=\s*"((?:[^"\\]|\\.)*)"\s*;')
-    found, offset = {}, 0
-    while content[offset:].strip():
-        match = entry.match(content, offset)
-        if not match:
-            raise Damaged(f"{path} cannot be read at: {content[offset:].strip()[:60]}")
-        if match[1] in found:
-            raise Damaged(f"{path} has {match[1]} twice")
-        found[match[1]] = match[2]
-        offset = match.end()
-    return found
-
-
-def used_texts(pane):
-    for _, row in pane.rows():
-        for property_name in ("label", "footerText"):
-            if property_name in row:
-                yield row[property_name]
-        yield from (title for title in row.get("validTitles", []) if not title.isdigit())
-
-
-def text_faults(package, pane):
-    known = texts(package, f"{BUNDLE}/en.lproj/Rollkeeper.strings")
-    used = set(used_texts(pane))
-    for key in sorted(used - set(known)):
-        yield f"there is no text for {key}"
-    in_code = {name.decode() for name in TEXT_KEY.findall(package.content(EXECUTABLE))} | PLAIN_TEXTS
-    for key in sorted(set(known) - used - in_code):
-        yield f"nobody uses the text {key}"
-    for key, value in known.items():
-        if not value:
-            yield f"the text {key} is empty"
-
-
-def library_faults(package, allowed):
-    yield from (f"the library: {fault}" for fault in check_dylib.faults(package.content(LIBRARY), allowed))
+    entry = package.property_list(ENTRY).get("entry", {})
+    wanted = {"bundle": "RollkeeperPreferences", "cell": "PSLinkCell", "icon": "icon.png", "isController": True}
+    if entry != wanted | {"label": "Rollkeeper"}:
+        yield f"the entry is {entry}"
+    information = package.property_list(f"{BUNDLE}/Info.plist")
+    version = package.field("Version")
+    wanted = {"CFBundleExecutable": os.path.basename(EXECUTABLE), "CFBundlePackageType": "BNDL"}
+    wanted |= {"CFBundleShortVersionString": version, "CFBundleVersion": version}
+    if not wanted.items() <= information.items():
+        yield f"the bundle's information is {information}, not {wanted}"
+    name = information.get("NSPrincipalClass", "none")
+    if name.encode() + b"\0" not in package.content(EXECUTABLE):
+        yield f"the pane's executable does not make the principal class {name}"
 
 
 def executable_faults(package, allowed):
-    data = package.content(EXECUTABLE)
-    image = mach_o.Library(data)
-    if (image.cpu_type, image.cpu_subtype) != (0x0100000C, 0):
-        yield "it is not for every arm64 device"
-    if image.file_type != 8:
-        yield f"its file type is {image.file_type}, not that of a bundle"
-    dependencies = {each.name: each.weak for each in image.dependencies()}
-    for name in sorted(set(dependencies) ^ PANE_DEPENDENCIES):
-        yield f"it {'needs' if name in dependencies else 'does not name'} {name}"
-    for name, weak in dependencies.items():
-        if weak != (os.path.basename(name) in PANE_WEAK):
-            yield f"{name} is {'weak' if weak else 'not weak'}"
-    for command in check_dylib.FORBIDDEN_COMMANDS.keys() & {kind for kind, _, _ in image.commands}:
-        yield f"it has {check_dylib.FORBIDDEN_COMMANDS[command]}"
-    for symbol, origin in sorted(set(image.imports()) - allowed - PANE_IMPORTS):
-        yield f"it imports {symbol} from {origin}, which the list does not allow"
-    if image.exported_symbols():
-        yield f"it exports {', '.join(image.exported_symbols())}"
-    for name in PANE_CLASSES:
-        if name.encode() + b"\0" not in data:
-            yield f"it does not make the class {name}"
-    yield from mach_o.signature_faults(image)
+    for fault in binary_faults(package.content(DYLIB), LIBRARY, allowed):
+        yield f"the library: {fault}"
+    for fault in binary_faults(package.content(EXECUTABLE), PANE, allowed | PANE["imports"]):
+        if not fault.startswith("the list allows"):
+            yield f"the pane's executable: {fault}"
 
 
-def read_settings(path):
-    with open(path, encoding="utf-8") as lines:
-        rows = [line.rstrip("\n").split("\t") for line in lines if line.strip() and not line.startswith("#")]
-    if rows[:1] != [["key", "type", "default"]]:
-        raise Damaged(f"{path} is no table of settings")
-    convert = {"boolean": lambda text: text == "true", "integer": int}
-    return {key: (TYPES[kind], convert[kind](default)) for key, kind, default in rows[1:]}
-
-
-def faults(data, settings, allowed):
-    """Every fault of a package, given its content; what cannot be read is one fault."""
-    try:
-        package = Package(data)
-    except Damaged as problem:
-        return [str(problem)]
+def faults(package, allowed):
+    """Every fault of a package; what is missing is one fault."""
     found = []
-    checks = (
-        lambda: control_faults(package),
-        lambda: entry_faults(package),
-        lambda: script_faults(package),
-        lambda: picture_faults(package),
-        lambda: injection_faults(package),
-        lambda: entry_list_faults(package),
-        lambda: information_faults(package),
-        lambda: page_faults(Pane(package)),
-        lambda: value_faults(Pane(package), settings),
-        lambda: text_faults(package, Pane(package)),
-        lambda: library_faults(package, allowed),
-        lambda: (f"the pane's executable: {fault}" for fault in executable_faults(package, allowed)),
-    )
+    checks = (control_faults, entry_faults, picture_faults, list_faults, lambda each: executable_faults(each, allowed))
     for check in checks:
         try:
-            found += check()
-        except (Damaged, mach_o.Damaged) as problem:
+            found += check(package)
+        except Damaged as problem:
             found.append(str(problem))
     return found
 
 
-def main(arguments):
-    if len(arguments) != 3:
-        print(__doc__.strip(), file=sys.stderr)
-        return 2
+def main(path, allowed):
     try:
-        with open(arguments[0], "rb") as file:
-            found = faults(file.read(), read_settings(arguments[1]), check_dylib.allowed_imports(arguments[2]))
-    except (OSError, Damaged, check_dylib.Damaged) as problem:
-        print(f"check_package: {problem}", file=sys.stderr)
-        return 2
+        found = faults(Package(path), allowed_imports(allowed))
+    except Damaged as problem:
+        found = [str(problem)]
     for fault in found:
-        print(f"{arguments[0]}: {fault}")
+        print(f"{path}: {fault}")
     return 1 if found else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    sys.exit(main(*sys.argv[1:]))
