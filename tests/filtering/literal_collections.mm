@@ -1,5 +1,7 @@
 #import "filtering/literal_collections.h"
 
+#import "filtering/stock_smart_albums.h"
+
 namespace simulator::test {
 namespace {
 
@@ -42,7 +44,7 @@ class LiteralAlgorithm {
 
     void visitSmartAlbum(PHAssetCollection* collection) {
         const NSInteger subtype = [collection assetCollectionSubtype];
-        bool isKept = subtype != 205 || (m_isPhotos && isOn(@"showHidden"));
+        bool isKept = subtype != hiddenPhotosSubtype || (m_isPhotos && isOn(@"showHidden"));
         for (const StockSmartAlbum& each : stockSmartAlbums)
             if (each.subtype == subtype) isKept = isOn(each.key) && (m_isPhotos || !isLocked(each.label));
         if (!isKept) [m_result removeObject:collection];

@@ -2,7 +2,7 @@
 // which of them pass straight through, and which still act. All stock methods are stubs here, and whatever a
 // replacement asks of its receiver or arguments raises, so that nothing it does goes unseen.
 #import "AppSupport/AppSupport.h"
-#import "filtering/filtering_test.h"
+#import "filtering/filtering_fixture.h"
 
 #include "device/clock.h"
 #include "device/exceptions.h"
@@ -185,7 +185,7 @@ TEST_P(Matrix, methods_act_as_the_table_says) {
             @autoreleasepool {
                 auto preferences = nlohmann::json::parse(row.at("with").empty() ? "{}" : row.at("with"));
                 preferences["enabled"] = enabled;
-                setPreferences(preferences);
+                reloadPreferences(preferences);
                 EXPECT_EQ(hasActed(row),
                           row.at("acts") == "always" || (row.at("acts") == "enabled" && enabled))
                     << row.at("class") << " " << row.at("selector") << ", enabled: " << enabled;

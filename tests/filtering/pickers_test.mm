@@ -1,43 +1,9 @@
 // The album pickers of Messenger, WhatsApp, imgur and Settings.
-#import "filtering/filtering_test.h"
-#import "filtering/literal_collections.h"
+#import "filtering/filtering_fixture.h"
 #import "hosts/applications/messenger/messenger_app.h"
 #import "hosts/applications/settings/settings_app.h"
 
-// Answers another time from another list.
-@interface AlternatingAlbums : MNPhotosAlbumDataSource {
-  @public
-    NSArray* lists;
-    NSUInteger calls;
-}
-@end
-
-@implementation AlternatingAlbums
-
-- (NSInteger)numberOfAlbums {
-    [_albums release];
-    _albums = [[lists objectAtIndex:calls++ % [lists count]] retain];
-    return static_cast<NSInteger>([_albums count]);
-}
-
-@end
-
-// Hands out new cells only, and keeps them.
-@interface CellRecorder : UITableView {
-  @public
-    NSMutableArray* cells;
-}
-@end
-
-@implementation CellRecorder
-
-- (id)dequeueReusableCellWithIdentifier:(NSString*)identifier {
-    [cells addObject:[[[MNMontageAlbumCell alloc] initWithStyle:UITableViewCellStyleDefault
-                                                reuseIdentifier:identifier] autorelease]];
-    return [cells lastObject];
-}
-
-@end
+#include "support/replacing.h"
 
 namespace simulator::test {
 namespace {
@@ -50,7 +16,7 @@ class Pickers : public FilteringTest {
             SCOPED_TRACE(bits);
             preferences["enabled"] = (bits & 1) != 0;
             preferences["hideLockedFromApps"] = (bits & 2) != 0;
-            setPreferences(preferences);
+            reloadPreferences(preferences);
             compare(bits & 1, bits & 2);
         }
     }
@@ -62,42 +28,60 @@ class Pickers : public FilteringTest {
     }
 };
 
+// Messenger's own methods: one that answers every other time from the other album, and one whose cells are
+// kept.
+
+PHAssetCollection* alternating[2];
+int albumCalls;
+
+id albumAtIndex(id, SEL, NSInteger) { return alternating[albumCalls++ % 2]; }
+
+NSMutableArray* cells;
+id (*originalCell)(id, SEL, id, id);
+
+id cellForRow(id self, SEL command, id table, id path) {
+    const id cell = originalCell(self, command, table, path);
+    [cells addObject:cell];
+    return cell;
+}
+
 TEST_F(Pickers, messenger_hands_out_the_second_album_unless_the_first_is_locked) {
+    id (*unused)(id, SEL, NSInteger);
     lockAlbums({"Work"});
-    startComplete(host::messenger);
-    PHAssetCollection* work = album(@"Work");
-    PHAssetCollection* pets = album(@"Pets");
-    AlternatingAlbums* source = [[[AlternatingAlbums alloc] init] autorelease];
+    startComplete(host::messenger, [&] {
+        replaceMethod("MNPhotosAlbumDataSource", @selector(albumAtIndex:), &albumAtIndex, &unused);
+    });
+    MNPhotosAlbumDataSource* source = [[[MNPhotosAlbumDataSource alloc] init] autorelease];
+    alternating[0] = album(@"Work");
+    alternating[1] = album(@"Pets");
     forEachSetting({}, [&](bool, bool) {
-        source->lists = @[ @[ work ], @[ pets ] ];
+        albumCalls = 0;
         EXPECT_TRUE([source albumAtIndex:0] == nil);
-        source->lists = @[ @[ pets ], @[ work ] ];
-        source->calls = 0;
-        EXPECT_TRUE([source albumAtIndex:0] == work);
-        EXPECT_EQ(source->calls, 2U);
-        source->calls = 0;
-        EXPECT_TRUE([source albumAtIndex:1] == nil);
+        albumCalls = 1;
+        EXPECT_TRUE([source albumAtIndex:0] == alternating[0]);
+        EXPECT_EQ(albumCalls, 3);
     });
 }
 
 TEST_F(Pickers, messenger_opens_no_album_while_locked_ones_are_hidden_and_clears_the_first_cell) {
     lockAlbums({"Work"});
-    startComplete(host::messenger);
+    startComplete(host::messenger, [] {
+        replaceMethod("MNMontageAlbumListViewController", @selector(tableView:cellForRowAtIndexPath:),
+                      &cellForRow, &originalCell);
+    });
     MNMontageAlbumListViewController* list = [messenger::application() montageAlbumList];
-    CellRecorder* table = [[[CellRecorder alloc] initWithFrame:CGRectZero
-                                                         style:UITableViewStylePlain] autorelease];
+    UITableView* table = [[[UITableView alloc] init] autorelease]; // reuses no cell
     forEachSetting({}, [&](bool enabled, bool hidesLocked) {
         for (const auto& row : messenger::listMontage())
             EXPECT_EQ(row.at("opens"), !(enabled && hidesLocked)) << row;
         for (NSInteger row = 0; row < [list tableView:table numberOfRowsInSection:0]; ++row) {
-            table->cells = [NSMutableArray array];
-            MNMontageAlbumCell* cell = (id)[list tableView:table
-                                     cellForRowAtIndexPath:[NSIndexPath indexPathForRow:row inSection:0]];
-            ASSERT_EQ([table->cells count], 2U);
-            MNMontageAlbumCell* first = [table->cells objectAtIndex:0];
-            EXPECT_TRUE(cell == [table->cells objectAtIndex:1]);
+            cells = [NSMutableArray array];
+            NSIndexPath* path = [NSIndexPath indexPathForRow:row inSection:0];
+            MNMontageAlbumCell* cell = (id)[list tableView:table cellForRowAtIndexPath:path];
+            ASSERT_EQ([cells count], 2U);
+            EXPECT_TRUE(cell == [cells objectAtIndex:1]);
             const bool isLocked = text([[cell textLabel] text]) == "Work";
-            EXPECT_EQ([first asset] != nil, !isLocked && [cell asset] != nil);
+            EXPECT_EQ([[cells objectAtIndex:0] asset] != nil, !isLocked && [cell asset] != nil);
             EXPECT_TRUE(!isLocked || [cell asset] != nil);
         }
     });

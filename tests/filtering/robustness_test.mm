@@ -1,5 +1,5 @@
 // Fetches in great numbers, and on many threads.
-#import "filtering/filtering_test.h"
+#import "filtering/filtering_fixture.h"
 
 #include "support/environment.h"
 
@@ -72,7 +72,7 @@ TEST_F(Robustness, threads_fetch_while_settings_and_the_locked_list_change) {
         });
     for (int round = 0; round < (configuration() == "arm64" ? 20 : 200); ++round) {
         lockAlbums({round % 2 == 0 ? "Holidays" : "Family"});
-        setPreferences({{"albumNamePets", round % 2 == 0}, {"hideLockedFromApps", round % 3 == 0}});
+        reloadPreferences({{"albumNamePets", round % 2 == 0}, {"hideLockedFromApps", round % 3 == 0}});
     }
     isOver = true;
     for (std::thread& thread : threads)

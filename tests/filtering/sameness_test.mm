@@ -2,7 +2,7 @@
 // lists, versions and lists, in every kind of process.
 #import "CoreFoundation/CoreFoundation.h"
 #import "device/json_objects.h"
-#import "filtering/filtering_test.h"
+#import "filtering/filtering_fixture.h"
 #import "filtering/literal_collections.h"
 
 #include "support/environment.h"
@@ -49,7 +49,7 @@ class Sameness : public FilteringTest, public testing::WithParamInterface<const 
         rebuildLibrary();
         writeLockedList();
         chooseSettings();
-        setPreferences(m_preferences);
+        reloadPreferences(m_preferences);
         kCFCoreFoundationVersionNumber = oneOf(versions);
     }
 
@@ -96,6 +96,8 @@ class Sameness : public FilteringTest, public testing::WithParamInterface<const 
             maybe(text(each.key));
         for (const auto& title : titles)
             if (title && oneIn(3)) maybe("albumName" + *title);
+        for (const auto& [key, value] : m_preferences.items())
+            if (key.starts_with("albumName")) m_visibility[key] = value;
     }
 
     // Everything that a list may hold, and more.
@@ -106,13 +108,14 @@ class Sameness : public FilteringTest, public testing::WithParamInterface<const 
             [all addObjectsFromArray:[albums(type) fetchedObjects]];
         [all addObjectsFromArray:[[PHCollection fetchTopLevelUserCollectionsWithOptions:nil] fetchedObjects]];
         [all addObject:[PHAssetCollection transientAssetCollectionWithAssets:@[] title:@"Family"]];
-        for (NSInteger subtype = 200; subtype < 217; ++subtype)
-            [all addObject:[FakeCollection collectionOfType:2 subtype:subtype title:@"Videos"]];
+        for (const NSInteger first : {200, 1'000'000'200})
+            for (NSInteger subtype = first; subtype < first + 17; ++subtype)
+                [all addObject:[FakeCollection collectionOfType:2 subtype:subtype title:@"Videos"]];
         for (const char* lacking : {"title", "isTrashBin", "assetCollectionType", "assetCollectionSubtype"})
             for (NSInteger type = 0; type < 5; ++type) {
                 FakeCollection* fake = [FakeCollection collectionOfType:type subtype:202 title:@"Family"];
                 fake->lacking.insert(lacking);
-                fake->isTrash = type == 1;
+                [fake setTrashBin:type == 1];
                 [all addObject:fake];
             }
         return all;
@@ -120,7 +123,7 @@ class Sameness : public FilteringTest, public testing::WithParamInterface<const 
 
     void compare(NSArray* answer, NSArray* (^previous)()) {
         const LiteralWorld world{string(GetParam()), kCFCoreFoundationVersionNumber,
-                                 static_cast<NSDictionary*>(objectFromJson(m_preferences)), visibility()};
+                                 objectFromJson(m_preferences), objectFromJson(m_visibility)};
         EXPECT_EQ(describe(answer, previous()), describe(literalCollections(previous, world), previous()));
     }
 
@@ -146,6 +149,7 @@ class Sameness : public FilteringTest, public testing::WithParamInterface<const 
     std::mt19937 m_random;
     Identifiers m_assets;
     nlohmann::json m_preferences;
+    nlohmann::json m_visibility = nlohmann::json::object(); // all that were ever read
 };
 
 TEST_P(Sameness, of_collections_and_the_literal_algorithm) {

@@ -1,8 +1,6 @@
-// Which methods the library replaces and adds in which host.
+// Which methods the library replaces and adds in which host, once and for all at the start.
 #include "support/library_fixture.h"
 #include "support/table.h"
-
-#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <set>
@@ -13,12 +11,38 @@ namespace {
 struct HostCase {
     const char* bundleIdentifier;
     const char* group; // null: none of its own
-    Release release = Release::complete;
     std::optional<double> coreFoundationVersion = {};
+    bool enabled = true;
 };
 
 std::ostream& operator<<(std::ostream& out, const HostCase& host) {
-    return out << host.bundleIdentifier << " on " << host.coreFoundationVersion.value_or(0);
+    return out << host.bundleIdentifier << " on " << host.coreFoundationVersion.value_or(0)
+               << (host.enabled ? "" : " switched off");
+}
+
+// Bundle identifiers are compared exactly.
+constexpr HostCase hosts[] = {
+    {host::camera, "camera"},
+    {host::photos, "photos"},
+    {host::messenger, "messenger"},
+    {host::whatsApp, "whatsapp"},
+    {host::imgur, "imgur"},
+    {host::springBoard, "springboard"},
+    {host::settings, nullptr},
+    {host::plain, nullptr},
+    {host::jolly, nullptr},
+    {"com.apple.Camera", nullptr},
+    {"com.apple.mobileslideshow2", nullptr},
+};
+
+std::vector<HostCase> allCases() {
+    std::vector<HostCase> cases = {{host::whatsApp, "whatsapp", 1299.9}, {host::plain, nullptr, 1300.0}};
+    for (HostCase each : hosts)
+        for (const bool enabled : {true, false}) {
+            each.enabled = enabled;
+            cases.push_back(each);
+        }
+    return cases;
 }
 
 std::vector<TableRow> expectedRows(const HostCase& host) {
@@ -29,7 +53,7 @@ std::vector<TableRow> expectedRows(const HostCase& host) {
         const std::string& group = row.at("group");
         const bool isOwn = host.group != nullptr && group == host.group;
         const bool fromShared = isShared && (group == "shared" || (group == "sharedFromIos10" && isIos10));
-        if (isOwn || fromShared) expected.push_back(row);
+        if (host.enabled && (isOwn || fromShared)) expected.push_back(row);
     }
     return expected;
 }
@@ -44,22 +68,24 @@ std::string describe(const Installation& installation) {
            installation.methodKind + installation.selector;
 }
 
-// The library's own class is no method of a host.
-std::vector<Installation> hostInstallations(const Host& running) {
-    std::vector<Installation> found;
-    std::ranges::copy_if(running.installations(), std::back_inserter(found),
-                         [](const Installation& each) { return each.className != "RKFlowLayout"; });
-    return found;
-}
+class HookTable : public LibraryTest, public testing::WithParamInterface<HostCase> {
+  protected:
+    // The library's own class is no method of a host.
+    std::vector<Installation> installations() {
+        std::vector<Installation> found = host().installations();
+        std::erase_if(found, [](const Installation& each) { return each.className == "RKFlowLayout"; });
+        return found;
+    }
+};
 
-class HookTable : public LibraryTest, public testing::WithParamInterface<HostCase> {};
-
-TEST_P(HookTable, is_installed_in_order_with_own_slots) {
+TEST_P(HookTable, is_installed_in_order_with_own_slots_and_never_changes) {
     change([](Conditions& conditions) {
-        conditions.release = GetParam().release;
+        conditions.release = Release::complete;
         conditions.coreFoundationVersion = GetParam().coreFoundationVersion;
     });
-    const auto installed = hostInstallations(start(GetParam().bundleIdentifier));
+    writePreferences({{"enabled", GetParam().enabled}});
+    start(GetParam().bundleIdentifier);
+    const auto installed = installations();
     const auto rows = expectedRows(GetParam());
     ASSERT_EQ(installed.size(), rows.size());
 
@@ -77,20 +103,13 @@ TEST_P(HookTable, is_installed_in_order_with_own_slots) {
         else
             EXPECT_EQ(each.encoding, rows[index].at("encoding")) << describe(each);
     }
+    for (const bool enabled : {false, true}) {
+        reloadPreferences({{"enabled", enabled}});
+        EXPECT_EQ(installations(), installed);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, HookTable,
-                         testing::Values(HostCase{host::camera, "camera"}, HostCase{host::photos, "photos"},
-                                         HostCase{host::messenger, "messenger"},
-                                         HostCase{host::whatsApp, "whatsapp"}, HostCase{host::imgur, "imgur"},
-                                         HostCase{host::springBoard, "springboard"},
-                                         HostCase{host::settings, nullptr}, HostCase{host::plain, nullptr},
-                                         HostCase{host::jolly, nullptr},
-                                         // Bundle identifiers are compared exactly.
-                                         HostCase{"com.apple.Camera", nullptr},
-                                         HostCase{"com.apple.mobileslideshow2", nullptr},
-                                         HostCase{host::whatsApp, "whatsapp", Release::complete, 1299.9},
-                                         HostCase{host::plain, nullptr, Release::complete, 1300.0}));
+INSTANTIATE_TEST_SUITE_P(Hosts, HookTable, testing::ValuesIn(allCases()));
 
 } // namespace
 } // namespace simulator::test

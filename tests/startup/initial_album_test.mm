@@ -2,10 +2,9 @@
 #import "UIKit/UIKit.h"
 
 #include "hosts/applications/camera/camera_app.h"
+#include "hosts/applications/common/screen.h"
 #include "support/environment.h"
 #include "support/library_fixture.h"
-
-#include <gtest/gtest.h>
 
 #include <ostream>
 
@@ -21,91 +20,73 @@ std::string selectedAlbum() {
     constexpr NSInteger albumLabel = 78;
     UIView* bar = [camera::viewfinder() bottomBar];
     [bar layoutSubviews];
-    return [[static_cast<UILabel*>([bar viewWithTag:albumLabel]) text] UTF8String];
+    return text([static_cast<UILabel*>([bar viewWithTag:albumLabel]) text]);
 }
 
 struct AlbumCase {
     std::optional<json> stored;
-    bool remember;
     const char* expected;
+    std::optional<bool> remember = true;
+    const char* damagedFile = nullptr;
 };
 
 std::ostream& operator<<(std::ostream& out, const AlbumCase& each) {
-    return out << (each.stored ? each.stored->dump() : "nothing") << (each.remember ? " remembered" : "");
+    return out << (each.damagedFile != nullptr ? each.damagedFile : each.stored.value_or("nothing").dump());
 }
+
+const AlbumCase albumCases[] = {
+    {{{"Family"}}, "Family"},
+    {{{"Family"}}, cameraRoll, false},
+    {{{"Family"}}, cameraRoll, std::nullopt},
+    {{{"Family", "Work"}}, "Family"},
+    {{{"Last"}}, "Last"}, // behind an album without a title
+    {{{"Nowhere"}}, cameraRoll},
+    {{{"family"}}, cameraRoll},
+    {{{cameraRoll}}, cameraRoll},
+    {{{"Videos"}}, cameraRoll},
+    {std::nullopt, cameraRoll},
+    {json::array(), cameraRoll},
+    {{{5}}, cameraRoll},
+    {json::array({json::array({"Family"})}), cameraRoll},
+    {json::object({{"Family", 1}}), cameraRoll},
+    {json("Family"), cameraRoll},
+    {std::nullopt, cameraRoll, true, ""},
+    {std::nullopt, cameraRoll, true, "Family"},
+    {std::nullopt, cameraRoll, true, "<plist version=\"1.0\"><array><string>Fam"},
+    {std::nullopt, cameraRoll, true, "bplist00\xFF\xFF\xFF\xFF"},
+};
 
 class InitialAlbum : public LibraryTest, public testing::WithParamInterface<AlbumCase> {};
 
 TEST_P(InitialAlbum, is_the_stored_one_if_wanted_and_there) {
-    if (GetParam().stored) device().writePropertyList(file::cameraAlbum, *GetParam().stored);
-    writePreferences({{"rememberDefault", GetParam().remember}});
-    start(host::camera);
-    EXPECT_EQ(selectedAlbum(), GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Stored, InitialAlbum,
-    testing::Values(AlbumCase{json{"Family"}, true, "Family"}, AlbumCase{json{"Family"}, false, cameraRoll},
-                    AlbumCase{json{"Family", "Work"}, true, "Family"},
-                    AlbumCase{json{"Nowhere"}, true, cameraRoll}, AlbumCase{json{"family"}, true, cameraRoll},
-                    AlbumCase{json{cameraRoll}, true, cameraRoll},
-                    AlbumCase{json{"Videos"}, true, cameraRoll}, AlbumCase{std::nullopt, true, cameraRoll},
-                    AlbumCase{json::array(), true, cameraRoll}, AlbumCase{json{5}, true, cameraRoll},
-                    AlbumCase{json::array({json::array({"Family"})}), true, cameraRoll},
-                    AlbumCase{json::object({{"Family", 1}}), true, cameraRoll},
-                    AlbumCase{json("Family"), true, cameraRoll}));
-
-class DamagedAlbumFile : public LibraryTest, public testing::WithParamInterface<std::string_view> {};
-
-TEST_P(DamagedAlbumFile, leaves_the_camera_without_an_album) {
-    writePreferences({{"rememberDefault", true}});
-    device().writeFile(file::cameraAlbum, GetParam());
-    start(host::camera);
-    EXPECT_EQ(selectedAlbum(), cameraRoll);
-}
-
-INSTANTIATE_TEST_SUITE_P(Contents, DamagedAlbumFile,
-                         testing::Values("", "Family", "<plist version=\"1.0\"><array><string>Fam",
-                                         "bplist00\xFF\xFF\xFF\xFF"));
-
-class CameraStart : public LibraryTest {};
-
-TEST_F(CameraStart, is_not_confused_by_an_album_without_a_title) {
     library().addAlbum(std::nullopt);
     library().addAlbum("Last");
-    writePreferences({{"rememberDefault", true}});
-    device().writePropertyList(file::cameraAlbum, {"Last"});
+    if (GetParam().stored) device().writePropertyList(file::cameraAlbum, *GetParam().stored);
+    if (GetParam().damagedFile != nullptr) device().writeFile(file::cameraAlbum, GetParam().damagedFile);
+    if (GetParam().remember) writePreferences({{"rememberDefault", *GetParam().remember}});
     start(host::camera);
-    EXPECT_EQ(selectedAlbum(), "Last");
-}
-
-TEST_F(CameraStart, does_not_remember_unless_told_to) {
-    device().writePropertyList(file::cameraAlbum, {"Family"});
-    start(host::camera);
-    EXPECT_EQ(selectedAlbum(), cameraRoll);
+    EXPECT_EQ(selectedAlbum(), GetParam().expected);
+    device().writePropertyList(file::cameraAlbum, {"Pets"});
     reloadPreferences({{"rememberDefault", true}});
-    EXPECT_EQ(selectedAlbum(), cameraRoll) << "the album is chosen at start alone";
+    EXPECT_EQ(selectedAlbum(), GetParam().expected) << "the album is chosen at start alone";
 }
 
-// The state folder.
+INSTANTIATE_TEST_SUITE_P(Stored, InitialAlbum, testing::ValuesIn(albumCases));
 
 class StateFolder : public LibraryTest {
   protected:
     bool isThere() { return std::filesystem::is_directory(device().onLinux(file::stateFolder)); }
 };
 
-TEST_F(StateFolder, is_made_by_SpringBoard_alone) {
-    startProcess(host::photos).stop();
-    startProcess(host::camera).stop();
+TEST_F(StateFolder, is_made_by_SpringBoard_alone_and_not_while_switched_off) {
+    for (const char* other : {host::photos, host::camera})
+        startProcess(other).stop();
+    writePreferences({{"enabled", false}});
+    startProcess(host::springBoard).stop();
     EXPECT_FALSE(isThere());
+    writePreferences({{"enabled", true}});
     start(host::springBoard);
     EXPECT_TRUE(isThere());
-}
-
-TEST_F(StateFolder, is_not_made_by_a_switched_off_library) {
-    writePreferences({{"enabled", false}});
-    start(host::springBoard);
-    EXPECT_FALSE(isThere());
 }
 
 TEST_F(StateFolder, is_left_as_it_is) {
@@ -117,10 +98,7 @@ TEST_F(StateFolder, is_left_as_it_is) {
 TEST_F(StateFolder, is_made_below_the_working_directory) {
     const std::filesystem::path elsewhere = device().folder() / "elsewhere";
     std::filesystem::create_directory(elsewhere);
-    const Host springBoard({.bundleIdentifier = host::springBoard,
-                            .device = device().folder(),
-                            .library = libraryFile(),
-                            .beforeLoading = [&] { std::filesystem::current_path(elsewhere); }});
+    start(host::springBoard, [&] { std::filesystem::current_path(elsewhere); });
     EXPECT_TRUE(std::filesystem::is_directory(elsewhere / "var/mobile/Library/rollkeeper"));
     EXPECT_FALSE(isThere());
 }

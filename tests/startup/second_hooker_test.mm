@@ -1,11 +1,9 @@
-// Other extensions replace the same methods, before the library loads or after: each of them is still called,
-// and the library still does its work, whatever the kind of hooking framework.
+// Whatever the kind of hooking framework, the library does its work, and other extensions that replace the
+// same methods, before it loads or after, are still called.
 #import "Hooking/Hooking.h"
 
 #include "hosts/applications/photos/photos_app.h"
 #include "support/photos_fixture.h"
-
-#include <gmock/gmock.h>
 
 namespace simulator::test {
 namespace {
@@ -56,6 +54,10 @@ class SecondHooker : public PhotosTest, public testing::WithParamInterface<std::
         change([](Conditions& conditions) { conditions.hooking = std::get<0>(GetParam()); });
         writePreferences(preferences);
         start(host::photos, has(Loaded::before) ? installNeighbour<Loaded::before> : nullptr);
+        for (const Installation& each : host().installations())
+            if (each.slot != nullptr)
+                EXPECT_TRUE(*static_cast<const void* const*>(each.slot) != nullptr)
+                    << each.className << " " << each.selector << " has nothing to pass calls on to";
         if (has(Loaded::after)) installNeighbour<Loaded::after>();
         list = photos::openAlbumList();
         noted.clear();
@@ -78,6 +80,9 @@ TEST_P(SecondHooker, is_called_and_leaves_the_library_its_work) {
 
     [list viewWillTransitionToSize:CGSizeMake(667, 375) withTransitionCoordinator:nil];
     EXPECT_EQ(takeNoted(), neighbours());
+    UIViewController* other = [[[UIViewController alloc] init] autorelease];
+    [other viewWillTransitionToSize:CGSizeMake(667, 375) withTransitionCoordinator:nil];
+    EXPECT_EQ(takeNoted(), Order{}) << "inherited: overridden for the class alone";
 
     PHAssetCollection* holidays = album(@"Holidays");
     takeNoted();
@@ -104,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
     All, SecondHooker,
     testing::Combine(testing::Values(HookingStyle{true, false}, HookingStyle{false, false},
                                      HookingStyle{true, true}, HookingStyle{false, true}),
-                     testing::Values(Order{Loaded::before}, Order{Loaded::after},
+                     testing::Values(Order{}, Order{Loaded::before}, Order{Loaded::after},
                                      Order{Loaded::after, Loaded::before})));
 
 } // namespace

@@ -46,6 +46,8 @@ class LibraryTest : public testing::Test {
     void writePreferences(const nlohmann::json& preferences);
     // Writes them and posts the notification, as the settings pane does; the library has read them then.
     void reloadPreferences(const nlohmann::json& preferences);
+    // Posts it alone, of whatever the file is.
+    void postReload() { postAndWait(@"com.nrv.rollkeeperprefs/reloadPrefs"); }
     void lockAlbums(const std::vector<std::string>& titles);
     // The list in the file; nothing when there is no file.
     std::optional<std::vector<std::string>> lockedAlbums() const;
@@ -60,7 +62,8 @@ class LibraryTest : public testing::Test {
     HostProcess& startSpringBoard();
     Host& host() { return *m_host; }
 
-    // Waits on the main run loop; a failure of the test when it never holds.
+    // Waits on the main run loop of the application, if there is one in this process; a failure of the test
+    // when it never holds.
     void waitFor(const std::function<bool()>& condition);
     // Waits until nothing that was begun is under way any more: answers of Touch ID, changes of the photo
     // library, notifications, and what these begin on the main queue.

@@ -9,7 +9,9 @@
 
 #include <unistd.h>
 
+#include <chrono>
 #include <sstream>
+#include <thread>
 
 namespace simulator::test {
 
@@ -63,7 +65,7 @@ void LibraryTest::writePreferences(const nlohmann::json& preferences) {
 
 void LibraryTest::reloadPreferences(const nlohmann::json& preferences) {
     writePreferences(preferences);
-    postAndWait(@"com.nrv.rollkeeperprefs/reloadPrefs");
+    postReload();
 }
 
 // Observers are told in the order in which they registered: the library's has been told when ours is.
@@ -108,7 +110,14 @@ HostProcess& LibraryTest::startSpringBoard() {
 }
 
 void LibraryTest::waitFor(const std::function<bool()>& condition) {
-    ASSERT_TRUE(m_host->runUntil(condition));
+    if (m_host) {
+        ASSERT_TRUE(m_host->runUntil(condition));
+        return;
+    }
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (!condition() && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    ASSERT_TRUE(condition());
 }
 
 // A round trip through each queue, behind what waits there. An answer may begin a change, and the end of one
