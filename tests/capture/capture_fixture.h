@@ -10,8 +10,6 @@
 #import "Photos/Photos.h"
 #import "hosts/applications/camera/camera_app.h"
 
-#include <future>
-
 // Methods that the library adds.
 @interface NSObject (AddedByTheLibrary)
 - (void)chooseAlbum;
@@ -21,10 +19,8 @@
 
 namespace simulator::test {
 
-using nlohmann::json;
-using Numbers = std::vector<std::size_t>;
-
 inline constexpr const char* cameraRoll = "Camera Roll";
+inline constexpr const char* newAlbum = "- Create new album -"; // the action
 inline constexpr const char* longTitle = "A title that is far too long for a label under such a small button";
 
 // What an album holds, and what is hidden at all, after a photo was put into it.
@@ -45,7 +41,7 @@ class CaptureTest : public PhotosTest {
         layOutScreen();
     }
     void open(const char* bundleIdentifier, const json& preferences = json::object()) {
-        change([](Conditions& conditions) { conditions.manualClock = true; });
+        useManualClock();
         writePreferences(preferences);
         start(bundleIdentifier);
     }
@@ -70,7 +66,7 @@ class CaptureTest : public PhotosTest {
     }
     // Answers the chooser that is open with a new album.
     void createAlbum(const std::string& title) {
-        tapAlertAction("- Create new album -");
+        tapAlertAction(newAlbum);
         typeText(0, title);
         tapAlertAction("OK");
     }
@@ -83,27 +79,7 @@ class CaptureTest : public PhotosTest {
     void pass(double seconds) {
         clock().advance(seconds);
         camera::waitForCaptureThread();
-        finishChanges();
-    }
-    // Changes are made one after the other; the end of one may ask for another.
-    void finishChanges() {
-        NSError* error = nil;
-        void (^nothing)() = ^{
-        };
-        for (int round = 0; round < 2; ++round)
-            [[PHPhotoLibrary sharedPhotoLibrary] performChangesAndWait:nothing error:&error];
-    }
-    // Does the work while every change of the library has to wait.
-    void whileLibraryIsBusy(const std::function<void()>& work) {
-        std::promise<void> goOn;
-        const auto signal = goOn.get_future().share();
-        void (^wait)() = ^{
-            signal.wait();
-        };
-        [[PHPhotoLibrary sharedPhotoLibrary] performChanges:wait completionHandler:nil];
-        work();
-        goOn.set_value();
-        finishChanges();
+        settle();
     }
     void setMoves(bool moves) {
         reloadPreferences({{"pickerMovePhotos", moves}, {"saveActivityMove", moves}});
@@ -119,21 +95,15 @@ class CaptureTest : public PhotosTest {
         return activity;
     }
     void answer(const std::string& action) {
-        finishChanges();
+        settle();
         tapAlertAction(action);
-        finishChanges();
+        settle();
     }
 
-    Numbers hidden() {
-        Numbers numbers;
-        for (std::size_t number = 0; number < library().assets({.includeHidden = true}).size(); ++number)
-            if (isHidden(number)) numbers.push_back(number);
-        return numbers;
-    }
     void expect(const Step& step) {
         SCOPED_TRACE(testing::Message() << step.album << (step.moves ? " moves" : " copies"));
         EXPECT_EQ(numbersIn(step.album), step.inAlbum);
-        EXPECT_EQ(hidden(), step.hidden);
+        EXPECT_EQ(hiddenNumbers(), step.hidden);
     }
     void deleteAlbum(const std::string& title) {
         Change change;

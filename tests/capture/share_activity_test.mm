@@ -8,7 +8,7 @@ using ShareActivity = CaptureTest;
 
 TEST_F(ShareActivity, puts_the_saved_picture_into_the_album_that_is_picked) {
     open(host::plain);
-    RequestRecorder* recorder = recordRequests();
+    recordRequests();
     const Step steps[] = {{"Pets", false, {10}, {}},           {"Pets", true, {10, 11}, {11}},
                           {"Cancel", true, {}, {11}},          {"Work", true, {6, 13}, {11, 13}},
                           {cameraRoll, false, {14}, {11, 13}}, {cameraRoll, true, {14, 15}, {11, 13, 15}}};
@@ -19,7 +19,7 @@ TEST_F(ShareActivity, puts_the_saved_picture_into_the_album_that_is_picked) {
         expect(step);
     }
     EXPECT_EQ(library().collections(CollectionKind::album).size(), 5U) << "\"Camera Roll\" was created, once";
-    waitForRequests(recorder, 0);
+    EXPECT_EQ(takeRequests(), std::vector<json>());
 }
 
 TEST_F(ShareActivity, leaves_the_picture_where_it_is_when_an_album_is_created) {
@@ -27,16 +27,16 @@ TEST_F(ShareActivity, leaves_the_picture_where_it_is_when_an_album_is_created) {
     UISaveToCameraRollActivity* activity = save();
     answer("Cancel");
     [activity movePhoto]; // nothing has been picked yet
-    finishChanges();
+    settle();
     EXPECT_EQ(library().collections(CollectionKind::album).size(), 4U);
     setMoves(true);
     for (const char* title : {"Garden", ""}) {
         save();
         createAlbum(title);
-        finishChanges();
-        EXPECT_EQ(hidden().size(), *title ? 0U : 1U);
+        settle();
+        EXPECT_EQ(hiddenNumbers().size(), *title ? 0U : 1U);
         [activity movePhoto]; // to the last title, which the empty one has not replaced
-        finishChanges();
+        settle();
     }
     expect({"Garden", true, {11, 12}, {11, 12}});
 }
@@ -53,7 +53,7 @@ TEST_F(ShareActivity, asks_as_soon_as_the_save_has_begun_if_a_picture_is_shared)
         save();
         EXPECT_TRUE(frontAlert() == nil) << key;
     }
-    finishChanges();
+    settle();
     EXPECT_EQ(library().assets().size(), 15U) << "saved all the same";
 }
 

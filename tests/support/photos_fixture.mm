@@ -4,6 +4,8 @@
 #import "device/json_objects.h"
 
 #include <algorithm>
+#include <future>
+#include <utility>
 
 bool operator==(CGRect a, CGRect b) { return CGRectEqualToRect(a, b); }
 
@@ -12,19 +14,14 @@ void PrintTo(CGRect rect, std::ostream* out) {
          << rect.size.height << ")";
 }
 
-@implementation FakePress
-
-- (UIGestureRecognizerState)state {
-    return fakeState;
-}
-
-- (UIView*)view {
-    return pressedView;
-}
-
-@end
-
 static NSString* const markName = @"mark";
+
+@interface RequestRecorder : NSObject {
+  @public
+    std::vector<nlohmann::json> requests;
+    bool isMarked;
+}
+@end
 
 @implementation RequestRecorder
 
@@ -40,11 +37,6 @@ static NSString* const markName = @"mark";
 
 namespace simulator::test {
 
-std::ostream& operator<<(std::ostream& out, Asked asked) {
-    constexpr const char* names[] = {"asked nothing", "asked for the password", "carried on"};
-    return out << names[static_cast<std::size_t>(asked)];
-}
-
 namespace {
 
 CPDistributedMessagingCenter* fileWritingCentre() {
@@ -53,32 +45,56 @@ CPDistributedMessagingCenter* fileWritingCentre() {
 
 } // namespace
 
-PUAlbumListViewController* PhotosTest::openAlbumList(const nlohmann::json& preferences,
-                                                     const std::vector<std::string>& locked) {
+PhotosTest::~PhotosTest() { [m_recorder release]; }
+
+PUAlbumListViewController* PhotosTest::openAlbumList(const json& preferences, const Texts& locked) {
     if (!preferences.is_null()) writePreferences(preferences);
     if (!locked.empty()) lockAlbums(locked);
     start(host::photos);
     return photos::openAlbumList();
 }
 
-RequestRecorder* PhotosTest::recordRequests() {
-    RequestRecorder* recorder = [[[RequestRecorder alloc] init] autorelease];
+void PhotosTest::recordRequests() {
+    m_recorder = [[RequestRecorder alloc] init];
     [fileWritingCentre() runServerOnCurrentThread];
     for (NSString* name in @[ @"savearray", markName ])
         [fileWritingCentre() registerForMessageName:name
-                                             target:recorder
+                                             target:m_recorder
                                            selector:@selector(takeMessageNamed:withUserInfo:)];
-    return recorder;
 }
 
-// The centre, which the library opens for the application before it sends, refuses the mark while nothing was
-// sent.
-void PhotosTest::waitForRequests(RequestRecorder* recorder, std::size_t count) {
-    host().runUntil([&] { return recorder->requests.size() >= count; });
+// The mark comes behind every request. It is refused while the library has not opened the centre for the
+// application, without which no request is sent.
+std::vector<json> PhotosTest::takeRequests() {
     settle();
-    recorder->isMarked = ![fileWritingCentre() sendMessageName:markName userInfo:nil];
-    waitFor([&] { return recorder->isMarked; });
-    EXPECT_EQ(recorder->requests.size(), count);
+    m_recorder->isMarked = ![fileWritingCentre() sendMessageName:markName userInfo:nil];
+    waitFor([&] { return m_recorder->isMarked; });
+    return std::exchange(m_recorder->requests, {});
+}
+
+std::vector<json> PhotosTest::takeSavedLists() {
+    std::vector<json> lists;
+    for (const json& request : takeRequests()) {
+        lists.push_back(request.value("array", json()));
+        json expected = {{"id", "com.apple.mobileslideshow"}, {"path", file::lockedAlbums}};
+        if (!lists.back().is_null()) expected["array"] = lists.back();
+        EXPECT_EQ(request, expected);
+    }
+    return lists;
+}
+
+void PhotosTest::setPassword(const std::optional<std::string>& password) {
+    if (password)
+        device().writeFile(file::password, *password);
+    else
+        device().remove(file::password);
+}
+
+void PhotosTest::setUnreadable(const char* path) {
+    change([&](Conditions& conditions) {
+        conditions.faults.unreadable.clear();
+        if (path != nullptr) conditions.faults.unreadable.push_back(path);
+    });
 }
 
 void PhotosTest::reload() {
@@ -86,16 +102,23 @@ void PhotosTest::reload() {
     layOutScreen();
 }
 
-void PhotosTest::setPassword(const std::optional<std::string>& password) {
-    if (password) {
-        device().writeFile(file::password, *password);
-    } else {
-        device().remove(file::password);
-    }
-}
-
 PUAlbumListCellContentView* PhotosTest::contentView(const std::string& title) {
     return [photos::albumCell(photos::albumList(), title) albumListCellContentView];
+}
+
+PUAlbumListCellContentView* PhotosTest::configure(Class cellClass, NSIndexPath* path) {
+    PUAlbumListViewController* list = photos::albumList();
+    UICollectionView* view = [list mainCollectionView];
+    [view registerClass:cellClass forCellWithReuseIdentifier:@"album"];
+    auto cell = static_cast<PUAlbumListCell*>([list collectionView:view cellForItemAtIndexPath:path]);
+    EXPECT_TRUE([cell isKindOfClass:cellClass]);
+    return [cell albumListCellContentView];
+}
+
+void PhotosTest::tapButton(const std::string& title, NSInteger tag) {
+    UIView* view = button(title, tag);
+    ASSERT_TRUE(view != nil) << title << " has no button " << tag;
+    EXPECT_TRUE(tap(view) == view) << "the button cannot be touched";
 }
 
 bool PhotosTest::lists(const std::string& title) {
@@ -118,6 +141,30 @@ bool PhotosTest::hasOpenedAlbum() {
 
 std::string PhotosTest::alertTitle() { return text([frontAlert() title]); }
 
+Texts PhotosTest::shownAlert() {
+    UIAlertController* alert = frontAlert();
+    const bool isSheet = [alert preferredStyle] == UIAlertControllerStyleActionSheet;
+    EXPECT_TRUE([[alert popoverPresentationController] sourceView] == nil);
+    Texts shown = {isSheet ? "sheet" : "alert", text([alert title]), text([alert message])};
+    for (UITextField* field in [alert textFields]) {
+        EXPECT_EQ(text([field text]), "");
+        shown.push_back("[" + text([field placeholder]) + ([field isSecureTextEntry] ? "*]" : "]"));
+    }
+    for (UIAlertAction* action in [alert actions]) {
+        const bool isCancel = [action style] == UIAlertActionStyleCancel;
+        EXPECT_TRUE(isCancel || [action style] == UIAlertActionStyleDefault);
+        shown.push_back(text([action title]) + (isCancel ? " (cancel)" : ""));
+    }
+    return shown;
+}
+
+UIView* PhotosTest::anchor() {
+    UIPopoverPresentationController* popover = [frontAlert() popoverPresentationController];
+    EXPECT_EQ([frontAlert() modalPresentationStyle], UIModalPresentationPopover);
+    EXPECT_EQ([popover sourceRect], [[popover sourceView] bounds]);
+    return [popover sourceView];
+}
+
 void PhotosTest::answerPassword(const std::string& text) {
     typeText(0, text);
     tapAlertAction("OK");
@@ -136,8 +183,8 @@ std::vector<UIView*> PhotosTest::banners() {
     return found;
 }
 
-std::vector<std::string> PhotosTest::bannerTexts() {
-    std::vector<std::string> texts;
+Texts PhotosTest::bannerTexts() {
+    Texts texts;
     for (UIView* banner : banners())
         texts.push_back(text([static_cast<UILabel*>([[banner subviews] firstObject]) text]));
     return texts;
@@ -158,21 +205,47 @@ bool PhotosTest::isHidden(std::size_t number) {
     return library().assets({.includeHidden = true}).at(number).hidden;
 }
 
-void PhotosTest::hide(const std::vector<std::size_t>& numbers) {
+void PhotosTest::hide(const Numbers& numbers) {
     for (const std::size_t number : numbers)
         library().setHidden(identifier(number), true);
 }
 
-std::vector<std::size_t> PhotosTest::numbersIn(const std::string& albumTitle) {
+void PhotosTest::hideOnly(const Numbers& numbers) {
+    for (const Asset& each : library().assets({.includeHidden = true}))
+        library().setHidden(each.identifier, false);
+    hide(numbers);
+}
+
+Numbers PhotosTest::hiddenNumbers() {
+    Numbers numbers;
+    const Assets all = library().assets({.includeHidden = true});
+    for (std::size_t number = 0; number < all.size(); ++number)
+        if (all[number].hidden) numbers.push_back(number);
+    return numbers;
+}
+
+Numbers PhotosTest::numbersIn(const std::string& albumTitle) {
     const auto album = library().albumTitled(albumTitle);
     if (!album) return {};
     const Assets held = library().assetsIn(*album, {.includeHidden = true});
     const Assets all = library().assets({.includeHidden = true});
-    std::vector<std::size_t> numbers;
+    Numbers numbers;
     for (std::size_t number = 0; number < all.size(); ++number)
         if (std::ranges::find(held, all[number].identifier, &Asset::identifier) != held.end())
             numbers.push_back(number);
     return numbers;
+}
+
+void PhotosTest::whileLibraryIsBusy(const std::function<void()>& work) {
+    std::promise<void> goOn;
+    const auto signal = goOn.get_future().share();
+    void (^wait)() = ^{
+        signal.wait();
+    };
+    [[PHPhotoLibrary sharedPhotoLibrary] performChanges:wait completionHandler:nil];
+    work();
+    goOn.set_value();
+    settle();
 }
 
 } // namespace simulator::test

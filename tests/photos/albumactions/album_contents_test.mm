@@ -24,9 +24,6 @@
 namespace simulator::test {
 namespace {
 
-using Numbers = std::vector<std::size_t>;
-using Log = std::vector<std::string>;
-
 class AlbumContents : public PhotosTest {
   protected:
     void openPhotos() {
@@ -54,7 +51,7 @@ class AlbumContents : public PhotosTest {
     }
 
   private:
-    std::vector<std::string> m_identifiers;
+    Texts m_identifiers;
 };
 
 TEST_F(AlbumContents, photos_that_leave_their_last_album_are_shown_first) {
@@ -77,14 +74,13 @@ TEST_F(AlbumContents, photos_that_leave_their_last_album_are_shown_first) {
         reloadPreferences({{"enabled", each.enabled}});
         select(photos::openAlbum(each.album), each.removed);
         tapBarButton("Delete");
-        EXPECT_EQ(takeHidingLog(), Log{"present"});
+        EXPECT_EQ(takeHidingLog(), Texts{"present"});
         tapAlertAction("Remove from Album");
-        EXPECT_EQ(takeHidingLog(), (Log{each.expected, "change"}));
+        EXPECT_EQ(takeHidingLog(), (Texts{each.expected, "change"}));
     }
     EXPECT_EQ(numbersIn("Holidays"), Numbers{1});
     EXPECT_EQ(numbersIn("Family"), Numbers{4});
-    for (std::size_t number = 0; number < 10; ++number)
-        EXPECT_EQ(isHidden(number), number == 1 || number == 4) << number;
+    EXPECT_EQ(hiddenNumbers(), (Numbers{1, 4}));
 }
 
 TEST_F(AlbumContents, removal_without_selection_shows_nothing_and_tells) {
@@ -94,7 +90,7 @@ TEST_F(AlbumContents, removal_without_selection_shows_nothing_and_tells) {
     [photos::openAlbum("Holidays") _removeSelectedAssetsWithCompletion:^(BOOL success) {
         *done = success == YES;
     }];
-    EXPECT_EQ(takeHidingLog(), (Log{"show nothing", "change"}));
+    EXPECT_EQ(takeHidingLog(), (Texts{"show nothing", "change"}));
     waitFor([&] { return isDone; });
 }
 
@@ -102,11 +98,11 @@ TEST_F(AlbumContents, deleting_from_a_stock_album_shows_photos_too_but_moments_d
     openPhotos();
     select(photos::openAlbum("Videos"), {7});
     tapBarButton("Delete");
-    EXPECT_EQ(takeHidingLog(), (Log{"show 7", "present"}));
+    EXPECT_EQ(takeHidingLog(), (Texts{"show 7", "present"}));
     tapAlertAction("Cancel");
     select(photos::openMoments(), {8});
     tapBarButton("Delete");
-    EXPECT_EQ(takeHidingLog(), Log{"present"});
+    EXPECT_EQ(takeHidingLog(), Texts{"present"});
 }
 
 TEST_F(AlbumContents, recovered_photos_that_are_in_no_album_are_shown_after_the_stock_work) {
@@ -115,12 +111,12 @@ TEST_F(AlbumContents, recovered_photos_that_are_in_no_album_are_shown_after_the_
     PUPhotosAlbumViewController* trash = photos::openAlbum("Recently Deleted");
     select(trash, {});
     tapBarButton("Recover");
-    EXPECT_EQ(takeHidingLog(), Log{"show nothing and tell"});
+    EXPECT_EQ(takeHidingLog(), Texts{"show nothing and tell"});
     select(trash, {2, 6, 8});
     tapBarButton("Recover");
-    EXPECT_EQ(takeHidingLog(), (Log{"present", "show 8 and tell"}));
+    EXPECT_EQ(takeHidingLog(), (Texts{"present", "show 8 and tell"}));
     tapAlertAction("Recover 3 Photos");
-    EXPECT_EQ(takeHidingLog(), Log{"change"});
+    EXPECT_EQ(takeHidingLog(), Texts{"change"});
     EXPECT_FALSE(isTrashed(2) || isTrashed(6) || isTrashed(8));
     EXPECT_TRUE(!isHidden(8) && isHidden(6) && isHidden(2));
 }
@@ -128,7 +124,7 @@ TEST_F(AlbumContents, recovered_photos_that_are_in_no_album_are_shown_after_the_
 TEST_F(AlbumContents, photo_restored_from_its_own_screen_is_shown_when_in_no_album) {
     const struct {
         std::size_t number;
-        Log expected;
+        Texts expected;
     } cases[] = {{8, {"change", "show 8 and tell"}}, {6, {"change"}}, {2, {"change"}}};
     openPhotos();
     for (const auto& each : cases) {
@@ -145,7 +141,7 @@ TEST_F(AlbumContents, photo_restored_from_its_own_screen_is_shown_when_in_no_alb
     PUOneUpViewController* oneUp = photos::openPhoto(photos::openAlbum("Recently Deleted"), 0);
     [[[oneUp browsingSession] viewModel] setCurrentAssetReference:nil];
     tapBarButton("Recover");
-    EXPECT_EQ(takeHidingLog(), Log()) << "there is nothing to restore";
+    EXPECT_EQ(takeHidingLog(), Texts()) << "there is nothing to restore";
 }
 
 TEST_F(AlbumContents, only_what_is_titled_camera_roll_loses_its_section_headers) {

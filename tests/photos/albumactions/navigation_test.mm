@@ -24,12 +24,8 @@
 namespace simulator::test {
 namespace {
 
-using nlohmann::json;
-using Numbers = std::vector<std::size_t>;
-using Titles = std::vector<std::string>;
-
-Titles titlesOf(NSArray* items) {
-    Titles titles;
+Texts titlesOf(NSArray* items) {
+    Texts titles;
     for (UIBarButtonItem* item in items)
         titles.push_back(text([item title]));
     return titles;
@@ -47,14 +43,6 @@ class Navigation : public PhotosTest {
   protected:
     PUNavigationController* navigation() {
         return static_cast<PUNavigationController*>([photos::library() selectedNavigationController]);
-    }
-    // Title, message and the actions with their styles.
-    Titles shownSheet() {
-        EXPECT_EQ([frontAlert() preferredStyle], UIAlertControllerStyleActionSheet);
-        Titles texts = {text([frontAlert() title]), text([frontAlert() message])};
-        for (UIAlertAction* action in [frontAlert() actions])
-            texts.push_back(text([action title]) + " " + std::to_string([action style]));
-        return texts;
     }
 };
 
@@ -78,7 +66,7 @@ TEST_F(Navigation, bar_gains_its_button_at_each_reading_while_it_has_fewer_than_
             for (const int count : {-1, 0, 1, 2, 3}) {
                 SCOPED_TRACE(testing::Message() << screen << " with " << count);
                 [[root navigationItem] setLeftBarButtonItems:count < 0 ? nil : itemsNumbering(count)];
-                Titles expected = titlesOf([[root navigationItem] leftBarButtonItems]);
+                Texts expected = titlesOf([[root navigationItem] leftBarButtonItems]);
                 for (int reading = 0; reading < 3; ++reading) {
                     if (added && expected.size() < 2) expected.emplace_back(added);
                     EXPECT_TRUE([[navigation navigationBar] topItem] == [root navigationItem]);
@@ -88,7 +76,7 @@ TEST_F(Navigation, bar_gains_its_button_at_each_reading_while_it_has_fewer_than_
                 [root viewDidLayoutSubviews]; // after the stock work keeps the first only
                 EXPECT_LT([[[[root view] subviews] firstObject] bounds].size.height, 600);
                 EXPECT_EQ(titlesOf([[root navigationItem] leftBarButtonItems]),
-                          count < 1 ? Titles() : Titles{"1"});
+                          count < 1 ? Texts() : Texts{"1"});
             }
         }
     }
@@ -114,15 +102,15 @@ TEST_F(Navigation, button_asks_what_suits_the_screen) {
     openAlbumList({{"passOption", 2}}, {"Holidays"});
     keepHidingLog(library());
     tapBarButton("Reset");
-    EXPECT_EQ(shownSheet(),
-              (Titles{"Move Album Photos",
-                      "Reset photo albums by returning all photos to the camera roll? Photos will "
-                      "remain in folders but also appear in the camera roll.",
-                      "Return all 0", "Cancel 1"}));
-    EXPECT_EQ(takeHidingLog(), Titles{"present"});
+    EXPECT_EQ(shownAlert(),
+              (Texts{"sheet", "Move Album Photos",
+                     "Reset photo albums by returning all photos to the camera roll? Photos will "
+                     "remain in folders but also appear in the camera roll.",
+                     "Return all", "Cancel (cancel)"}));
+    EXPECT_EQ(takeHidingLog(), Texts{"present"});
     tapAlertAction("Cancel");
 
-    const std::map<std::string, Titles> choices = {
+    const std::map<std::string, Texts> choices = {
         {"Cancel", {"present"}},
         {"Copy to camera roll", {"present", "show 1 and tell"}},
         {"Move out of camera roll", {"present", "hide 0 1 2 and tell"}}};
@@ -131,9 +119,9 @@ TEST_F(Navigation, button_asks_what_suits_the_screen) {
     for (const auto& [choice, expected] : choices) {
         library().setHidden(identifier(1), choice != "Move out of camera roll");
         tapBarButton("Move");
-        EXPECT_EQ(shownSheet(),
-                  (Titles{"Move Album Photos", "Copy photos back into the camera roll or move them out?",
-                          "Copy to camera roll 0", "Move out of camera roll 0", "Cancel 1"}));
+        EXPECT_EQ(shownAlert(), (Texts{"sheet", "Move Album Photos",
+                                       "Copy photos back into the camera roll or move them out?",
+                                       "Copy to camera roll", "Move out of camera roll", "Cancel (cancel)"}));
         tapAlertAction(choice);
         EXPECT_EQ(takeHidingLog(), expected);
     }
@@ -147,9 +135,7 @@ TEST_F(Navigation, sheets_point_at_the_screen_on_a_pad) {
     for (UIViewController* screen = openAlbumList(); screen != nil;
          screen = hasOpenedAlbum() ? nil : photos::openAlbum("Family")) {
         [navigation() syncAlbums];
-        UIPopoverPresentationController* popover = [frontAlert() popoverPresentationController];
-        EXPECT_TRUE([popover sourceView] == [screen view]);
-        EXPECT_EQ([popover sourceRect], [[screen view] bounds]);
+        EXPECT_TRUE(anchor() == [screen view]);
         tapAlertAction("Cancel");
     }
 }
@@ -164,7 +150,7 @@ TEST_F(Navigation, all_photos_return_but_those_of_locked_and_switched_off_albums
     const struct {
         const char* name;
         Numbers hidden;
-        Titles locked;
+        Texts locked;
         json preferences;
         const char* asked; // null: there is nothing to return
         Numbers hiddenAfter;
@@ -177,29 +163,27 @@ TEST_F(Navigation, all_photos_return_but_those_of_locked_and_switched_off_albums
         {"locked without title", {8}, {""}, on(true, true, true), "show 8 and tell", {}},
         {"library switched off", {0}, {}, {{"enabled", false}}, "show 0 and tell", {}},
     };
-    change([](Conditions& conditions) { conditions.manualClock = true; });
+    useManualClock();
     library().addAlbum(std::nullopt, {identifier(8)});
     openAlbumList();
     keepHidingLog(library());
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
-        for (std::size_t number = 0; number < 10; ++number)
-            library().setHidden(identifier(number), std::ranges::count(each.hidden, number) > 0);
+        hideOnly(each.hidden);
         lockAlbums(each.locked);
         reloadPreferences(each.preferences);
         tapBarButton("Reset");
-        EXPECT_EQ(takeHidingLog(), Titles{"present"});
+        EXPECT_EQ(takeHidingLog(), Texts{"present"});
         tapAlertAction("Return all");
-        EXPECT_EQ(takeHidingLog(), each.asked ? Titles{each.asked} : Titles());
-        const Titles banners =
-            each.asked ? Titles{"Returning all albums", "Finished moving"} : Titles{"No photos to return."};
-        waitFor([&] { return bannerTexts() == banners; });
-        for (std::size_t number = 0; number < 10; ++number)
-            EXPECT_EQ(isHidden(number), std::ranges::count(each.hiddenAfter, number) > 0) << number;
+        EXPECT_EQ(takeHidingLog(), each.asked ? Texts{each.asked} : Texts());
+        settle();
+        EXPECT_EQ(bannerTexts(), each.asked ? Texts({"Returning all albums", "Finished moving"})
+                                            : Texts{"No photos to return."});
+        EXPECT_EQ(hiddenNumbers(), each.hiddenAfter);
         EXPECT_EQ(lockedAlbums(), each.locked);
         for (int step = 0; step < 4; ++step)
             clock().advance(1);
-        EXPECT_EQ(bannerTexts(), Titles());
+        EXPECT_EQ(bannerTexts(), Texts());
     }
 }
 
@@ -263,7 +247,7 @@ TEST_P(NavigationOnReleases, does_what_the_release_allows) {
     [[root navigationItem] setLeftBarButtonItems:nil];
     [navigation() navigationBar];
     EXPECT_EQ(titlesOf([[root navigationItem] leftBarButtonItems]),
-              Titles{release >= Release::ios9_3 ? "Reset" : "Move"});
+              Texts{release >= Release::ios9_3 ? "Reset" : "Move"});
     [navigation() syncAlbums];
     EXPECT_EQ(alertTitle(), release >= Release::ios9_3 ? "Move Album Photos" : "");
     if (frontAlert()) tapAlertAction("Cancel");
@@ -274,7 +258,8 @@ TEST_P(NavigationOnReleases, does_what_the_release_allows) {
         [album _removeSelectedAssetsWithCompletion:nil];
         [album _removeButtonPressed:nil];
         EXPECT_TRUE([album initiallyScrolledToBottom]);
-        waitFor([&] { return numbersIn("Holidays").size() == 2; });
+        settle();
+        EXPECT_EQ(numbersIn("Holidays").size(), 2U);
         EXPECT_EQ(isHidden(0), release < Release::ios9_3) << "earlier there is nothing to show it with";
     }
     [photos::application() enterBackground];

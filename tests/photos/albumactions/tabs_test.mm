@@ -1,6 +1,7 @@
-// The tabs of the library, the bar with one tab left, and the size of covers that the corners over them tell.
-#import "PhotosUICore/PhotosUICore.h"
+// The tabs of the library, and the bar with one tab left.
 #include "support/photos_fixture.h"
+
+#include <objc/runtime.h>
 
 #include <bit>
 
@@ -31,10 +32,16 @@ UITabBar* barWithItems(NSUInteger count) {
     return bar;
 }
 
+BOOL stockAnswer = YES;
+BOOL stockWantsTabBar(id, SEL) { return stockAnswer; }
+
 class Tabs : public PhotosTest {
   protected:
-    nlohmann::json preferencesShowing(unsigned shown, bool enabled = true) {
-        nlohmann::json preferences = {{"enabled", enabled}};
+    Tabs() {
+        change([](Conditions& conditions) { conditions.release = Release::complete; });
+    }
+    json preferencesShowing(unsigned shown, bool enabled = true) {
+        json preferences = {{"enabled", enabled}};
         for (unsigned tab = 0; tab < std::size(settings); ++tab)
             preferences[settings[tab].setting] = (shown & 1U << tab) != 0;
         return preferences;
@@ -42,10 +49,20 @@ class Tabs : public PhotosTest {
 };
 
 TEST_F(Tabs, are_those_that_the_settings_show) {
-    openAlbumList();
+    start(host::photos, [] {
+        class_replaceMethod([UIViewController class], @selector(pu_wantsTabBarVisible),
+                            reinterpret_cast<IMP>(stockWantsTabBar), "C@:");
+    });
+    PUAlbumListViewController* list = photos::openAlbumList();
+    stockAnswer = NO;
     PUTabbedLibraryViewController* library = photos::library();
     PUPhotosAlbumViewController* album = [[[PUPhotosAlbumViewController alloc] init] autorelease];
-    [album setAlwaysHideTabBar:YES];
+    [album setAlwaysHideTabBar:YES]; // so that by itself it wants none
+    const auto expectOneTab = [&](bool isOne) {
+        EXPECT_EQ([album pu_wantsTabBarVisible], isOne);
+        EXPECT_EQ([list alwaysHideTabBar], isOne);
+        EXPECT_EQ([list pu_wantsTabBarVisible], isOne);
+    };
     for (unsigned shown = 0; shown < 16; ++shown) {
         SCOPED_TRACE(shown);
         reloadPreferences(preferencesShowing(shown));
@@ -60,17 +77,16 @@ TEST_F(Tabs, are_those_that_the_settings_show) {
         layOutScreen();
         EXPECT_EQ(modes([library displayedContentModes]), tabs);
         if (tabs.size() == 1) EXPECT_TRUE([[library tabBar] isHidden]);
-        EXPECT_EQ([album pu_wantsTabBarVisible], std::popcount(shown) == 1) << "none is not one";
+        expectOneTab(std::popcount(shown) == 1); // none is not one
     }
     for (const unsigned shown : {0U, 1U, 8U, 15U}) {
         reloadPreferences(preferencesShowing(shown, false));
         EXPECT_EQ(modes([library excludedContentModes]), (Modes{0, 7})) << shown;
-        EXPECT_FALSE([album pu_wantsTabBarVisible]) << shown;
+        expectOneTab(false);
     }
 }
 
 TEST_F(Tabs, every_bar_with_one_item_is_hidden_when_laid_out) {
-    change([](Conditions& conditions) { conditions.release = Release::complete; });
     openAlbumList();
     for (const bool enabled : {true, false}) {
         reloadPreferences({{"enabled", enabled}});
@@ -85,31 +101,6 @@ TEST_F(Tabs, every_bar_with_one_item_is_hidden_when_laid_out) {
             [bar layoutSubviews];
             EXPECT_TRUE([bar isHidden] && [bar hidden]) << "nobody shows it";
         }
-    }
-}
-
-TEST_F(Tabs, corners_over_a_cover_tell_its_side) {
-    constexpr double sideFromScreen = 180;
-    const struct {
-        double width;
-        double side;
-    } cases[] = {{99, sideFromScreen}, {100, sideFromScreen}, {100.01, 101}, {119.5, 120},
-                 {120, 121},           {120.9, 121},          {260, 261},    {0, sideFromScreen}};
-    change([](Conditions& conditions) { conditions.screen.width = 414; });
-    PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.width);
-        reloadPreferences({{"enabled", each.side != 121}});
-        [list viewWillAppear:NO];
-        PXRoundedCornerOverlayView* corners = [[[PXRoundedCornerOverlayView alloc]
-            initWithFrame:CGRectMake(0, 0, each.width, 300)] autorelease];
-        [corners layoutSubviews];
-        UICollectionView* view = [list mainCollectionView];
-        auto cell =
-            static_cast<PUAlbumListCell*>([list collectionView:view
-                                        cellForItemAtIndexPath:photos::pathOfAlbum(list, "Holidays")]);
-        UIView* cover = [[cell albumListCellContentView] viewWithTag:tag::lockOverlay];
-        EXPECT_EQ([cover frame], CGRectMake(0, 0, each.side, each.side));
     }
 }
 

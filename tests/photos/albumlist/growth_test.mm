@@ -2,8 +2,6 @@
 #include "device/living_objects.h"
 #include "support/photos_fixture.h"
 
-#include <gmock/gmock.h>
-
 namespace simulator::test {
 namespace {
 
@@ -13,8 +11,7 @@ class AlbumListGrowth : public PhotosTest {
     void configure(int rounds) {
         for (int round = 0; round < rounds; ++round) {
             @autoreleasepool {
-                lockAlbums(round % 2 == 0 ? std::vector<std::string>{"Holidays", "Family", "Camera Roll"}
-                                          : std::vector<std::string>{"Pets"});
+                lockAlbums(round % 2 == 0 ? Texts{"Holidays", "Family", "Camera Roll"} : Texts{"Pets"});
                 reload();
             }
         }

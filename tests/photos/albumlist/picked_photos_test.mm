@@ -3,10 +3,6 @@
 #include "support/hiding_log.h"
 #include "support/photos_fixture.h"
 
-@interface PUAlbumListViewController (Moving)
-- (void)reloadCameraRollWithMove:(BOOL)move;
-@end
-
 // A screen that shows what no tile was made for.
 @interface OneUpWithOtherTile : PUOneUpViewController
 @end
@@ -21,8 +17,6 @@
 
 namespace simulator::test {
 namespace {
-
-using Log = std::vector<std::string>;
 
 class PickedPhotos : public PhotosTest {
   protected:
@@ -54,7 +48,7 @@ class PickedPhotos : public PhotosTest {
     static void pick(PUPhotosGridViewController* grid, std::size_t number) {
         [[grid photoSelectionManager] setSelected:YES forAsset:asset(number)];
     }
-    static Log logOfMove(PUAlbumListViewController* list) {
+    static Texts logOfMove(PUAlbumListViewController* list) {
         takeHidingLog();
         [list reloadCameraRollWithMove:YES];
         return takeHidingLog();
@@ -66,7 +60,7 @@ TEST_F(PickedPhotos, are_hidden_where_they_were_picked) {
     const struct {
         const char* name;
         void (*pick)();
-        Log expected;
+        Texts expected;
     } cases[] = {
         {"moments", [] { selectPhotos(openMoments(), {0, 9}); }, {"hide 0 9"}},
         {"none of moments", [] { tapBarButton("Cancel"); }, {"hide nothing"}},
@@ -88,47 +82,45 @@ TEST_F(PickedPhotos, are_hidden_where_they_were_picked) {
         settle();
         takeHidingLog();
         [list reloadCameraRollWithMove:NO];
-        EXPECT_EQ(takeHidingLog(), Log()) << "a copy hides nothing";
+        EXPECT_EQ(takeHidingLog(), Texts()) << "a copy hides nothing";
         EXPECT_EQ(logOfMove(list), each.expected);
-        for (std::size_t number = 0; number < 10; ++number)
-            library().setHidden(identifier(number), false);
+        hideOnly({});
     }
-    EXPECT_EQ(numbersIn("Family"), (std::vector<std::size_t>{2, 4, 5})) << "what is moved leaves its album";
+    EXPECT_EQ(numbersIn("Family"), (Numbers{2, 4, 5})) << "what is moved leaves its album";
     EXPECT_EQ(numbersIn("Holidays").size(), 3U);
 }
 
 TEST_F(PickedPhotos, of_controllers_that_have_gone_are_not_touched) {
     PUAlbumListViewController* list = openPhotos();
-    EXPECT_EQ(logOfMove(list), Log{"hide unset"}) << "nothing was ever known";
+    EXPECT_EQ(logOfMove(list), Texts{"hide unset"}) << "nothing was ever known";
     PUPhotosAlbumViewController* before = makeAlbum();
     pick(before, 2);
     @autoreleasepool {
         pick(makeAlbum(), 3);
     }
-    EXPECT_EQ(logOfMove(list), Log{"hide unset"}) << "what came before the last one does not come back";
+    EXPECT_EQ(logOfMove(list), Texts{"hide unset"}) << "what came before the last one does not come back";
     for (int round = 0; round < 3; ++round) { // often at the same address
         @autoreleasepool {
             PUPhotosAlbumViewController* album = makeAlbum();
-            EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
+            EXPECT_EQ(logOfMove(list), Texts{"hide nothing"});
             @autoreleasepool {
                 showOneUp([PUOneUpViewController class], 6);
-                EXPECT_EQ(logOfMove(list), Log{"hide 6"});
+                EXPECT_EQ(logOfMove(list), Texts{"hide 6"});
                 showOneUp([OneUpWithOtherTile class], 6);
-                EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
+                EXPECT_EQ(logOfMove(list), Texts{"hide nothing"});
             }
-            EXPECT_EQ(logOfMove(list), Log{"hide nothing"});
+            EXPECT_EQ(logOfMove(list), Texts{"hide nothing"});
             pick(album, 4);
-            EXPECT_EQ(logOfMove(list), Log{"hide 4"}) << "without a collection there is none to leave";
+            EXPECT_EQ(logOfMove(list), Texts{"hide 4"}) << "without a collection there is none to leave";
         }
         @autoreleasepool {
             auto grid = [[[PUZoomableGridViewController alloc] init] autorelease];
             [grid viewWillAppear:NO];
             pick(grid, 8);
-            EXPECT_EQ(logOfMove(list), Log{"hide 8"});
+            EXPECT_EQ(logOfMove(list), Texts{"hide 8"});
         }
-        EXPECT_EQ(logOfMove(list), Log{"hide unset"});
-        for (const std::size_t number : {4, 6, 8})
-            library().setHidden(identifier(number), false);
+        EXPECT_EQ(logOfMove(list), Texts{"hide unset"});
+        hideOnly({});
     }
 }
 

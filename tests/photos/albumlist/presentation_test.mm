@@ -1,7 +1,9 @@
 // What the album list shows: thumbnails, lock overlays, counts, recognisers and cell buttons.
+#import "PhotosUICore/PhotosUICore.h"
 #include "support/photos_fixture.h"
 
 #include <gmock/gmock.h>
+#include <objc/runtime.h>
 
 #include <sstream>
 
@@ -21,63 +23,37 @@ static CGFloat stackWidth = 0;
 
 @end
 
-// The content of a cell of another kind, to which nobody adds buttons.
-@interface OtherContentView : UIView {
-    NSString* _title;
-    NSString* _subtitle;
-    NSUInteger _editCapabilities;
-    BOOL _editing;
-    id _delegate;
-    PUStackView* _stackView;
-}
-@property (nonatomic, copy) NSString* title;
-@property (nonatomic, copy) NSString* subtitle;
-@property (nonatomic) NSUInteger editCapabilities;
-@property (nonatomic, getter=isEditing) BOOL editing;
-@property (nonatomic, assign) id delegate;
-@property (nonatomic, retain) PUStackView* stackView;
+// The content of a cell to which nobody has added buttons.
+@interface ContentWithoutButtons : PUAlbumListCellContentView
 @end
 
-@implementation OtherContentView
+@implementation ContentWithoutButtons
 
-@synthesize title = _title, subtitle = _subtitle, editCapabilities = _editCapabilities, editing = _editing;
-@synthesize delegate = _delegate, stackView = _stackView;
-
-- (void)dealloc {
-    [_title release];
-    [_subtitle release];
-    [_stackView release];
-    [super dealloc];
+- (BOOL)respondsToSelector:(SEL)selector {
+    return !sel_isEqual(selector, @selector(createButtons)) && [super respondsToSelector:selector];
 }
 
-- (UIButton*)_deleteButton {
-    return nil;
+- (void)createButtons {
+    ADD_FAILURE() << "there is no such method";
 }
 
 @end
 
-@interface OtherCell : PUAlbumListCell {
-    OtherContentView* _other;
+@interface CellWithoutButtons : PUAlbumListCell {
+    ContentWithoutButtons* _content;
 }
 @end
 
-@implementation OtherCell
-
-- (instancetype)initWithFrame:(CGRect)frame {
-    self = [super initWithFrame:frame];
-    _other = [[OtherContentView alloc] initWithFrame:frame];
-    [_other setStackView:[[[PUStackView alloc] initWithFrame:frame] autorelease]];
-    [_other addSubview:[_other stackView]];
-    return self;
-}
-
-- (void)dealloc {
-    [_other release];
-    [super dealloc];
-}
+@implementation CellWithoutButtons
 
 - (PUAlbumListCellContentView*)albumListCellContentView {
-    return static_cast<PUAlbumListCellContentView*>(static_cast<UIView*>(_other));
+    if (_content == nil) _content = [[ContentWithoutButtons alloc] initWithFrame:[self bounds]];
+    return _content;
+}
+
+- (void)dealloc {
+    [_content release];
+    [super dealloc];
 }
 
 @end
@@ -107,67 +83,44 @@ std::string outline(UIView* view) {
 
 class AlbumListPresentation : public PhotosTest {
   protected:
-    // A cell configured outside the screen, for the album of that title.
-    PUAlbumListCell* configure(Class cellClass, const std::string& title) {
-        PUAlbumListViewController* list = photos::albumList();
-        UICollectionView* view = [list mainCollectionView];
-        layOutScreen();
-        [view registerClass:cellClass forCellWithReuseIdentifier:@"album"];
-        return static_cast<PUAlbumListCell*>([list collectionView:view
-                                           cellForItemAtIndexPath:photos::pathOfAlbum(list, title)]);
-    }
-    std::vector<std::string> titlesWithOverlay() {
-        std::vector<std::string> titles;
+    Texts titlesWithOverlay() {
+        Texts titles;
         for (PUAlbumListCell* cell in [[photos::albumList() mainCollectionView] visibleCells]) {
             PUAlbumListCellContentView* content = [cell albumListCellContentView];
             if ([content viewWithTag:tag::lockOverlay]) titles.push_back(text([content title]));
         }
         return titles;
     }
-    // So that every album is on the screen at once.
-    void useTallScreen() {
-        change([](Conditions& conditions) { conditions.screen.height = 2000; });
-    }
 };
+
+#pragma mark Overlays
 
 struct OverlayCase {
     double screenWidth;
-    int preview;
-    const char* outline;
+    std::string whole; // the frames of the overlay and of the small lock
+    std::string lock;
 };
 
-class LockOverlay : public AlbumListPresentation, public testing::WithParamInterface<double> {};
-
-// Thumbnails of 175 points and more take their side from the corners drawn over them, and a point more.
-constexpr OverlayCase overlayCases[] = {
-    {320, 0, "UIImageView 0 0 136 136 {UIVisualEffectView 0 0 136 136; UIImageView 43 43 50 50}"},
-    {320, 1, "UIImageView 0 0 136 136"},
-    {320, 2, "UIImageView 0 0 136 136 {UIImageView 43 43 50 50}"},
-    {320, 3, "none"},
-    {375, 0, "UIImageView 0 0 164 164 {UIVisualEffectView 0 0 164 164; UIImageView 57 57 50 50}"},
-    {375, 1, "UIImageView 0 0 164 164"},
-    {375, 2, "UIImageView 0 0 164 164 {UIImageView 57 57 50 50}"},
-    {375, -1, "none"},
-    {390, 0, "UIImageView 0 0 171 171 {UIVisualEffectView 0 0 171 171; UIImageView 60 60 50 50}"},
-    {390, 1, "UIImageView 0 0 171 171"},
-    {390, 2, "UIImageView 0 0 171 171 {UIImageView 60 60 50 50}"},
-    {390, 4, "none"},
-    {414, 0, "UIImageView 0 0 181 181 {UIVisualEffectView 0 0 181 181; UIImageView 65 65 50 50}"},
-    {414, 1, "UIImageView 0 0 181 181"},
-    {414, 2, "UIImageView 0 0 181 181 {UIImageView 65 65 50 50}"},
-    {414, 3, "none"},
-};
+class LockOverlay : public AlbumListPresentation, public testing::WithParamInterface<OverlayCase> {};
 
 TEST_P(LockOverlay, has_the_chosen_form) {
-    change([](Conditions& conditions) { conditions.screen.width = GetParam(); });
+    const std::string image = "UIImageView " + GetParam().whole;
+    const std::string blur = "UIVisualEffectView " + GetParam().whole;
+    const std::string lock = "UIImageView " + GetParam().lock;
+    const std::pair<int, std::string> forms[] = {{0, image + " {" + blur + "; " + lock + "}"},
+                                                 {1, image},
+                                                 {2, image + " {" + lock + "}"},
+                                                 {3, "none"},
+                                                 {4, "none"},
+                                                 {-1, "none"}};
+    change([](Conditions& conditions) { conditions.screen.width = GetParam().screenWidth; });
     openAlbumList();
-    for (const OverlayCase& each : overlayCases) {
-        if (each.screenWidth != GetParam()) continue;
-        SCOPED_TRACE(each.preview);
-        reloadPreferences({{"lockedAlbumPreview", each.preview}});
+    for (const auto& [preview, form] : forms) {
+        SCOPED_TRACE(preview);
+        reloadPreferences({{"lockedAlbumPreview", preview}});
         lockAlbums({"Holidays"});
         reload();
-        EXPECT_EQ(outline(overlay("Holidays")), each.outline);
+        EXPECT_EQ(outline(overlay("Holidays")), form);
         EXPECT_TRUE(overlay("Family") == nil);
         if (UIView* shown = overlay("Holidays")) {
             EXPECT_TRUE([shown superview] == [contentView("Holidays") stackView]);
@@ -180,9 +133,15 @@ TEST_P(LockOverlay, has_the_chosen_form) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, LockOverlay, testing::Values(320, 375, 390, 414), [](const auto& info) {
-    return "width_" + std::to_string(static_cast<int>(info.param));
-});
+// Thumbnails of 175 points and more take their side from the corners drawn over them, and a point more.
+INSTANTIATE_TEST_SUITE_P(Screens, LockOverlay,
+                         testing::Values(OverlayCase{320, "0 0 136 136", "43 43 50 50"},
+                                         OverlayCase{375, "0 0 164 164", "57 57 50 50"},
+                                         OverlayCase{390, "0 0 171 171", "60 60 50 50"},
+                                         OverlayCase{414, "0 0 181 181", "65 65 50 50"}),
+                         [](const auto& info) {
+                             return "width_" + std::to_string(static_cast<int>(info.param.screenWidth));
+                         });
 
 TEST_F(AlbumListPresentation, blurred_overlay_is_dark_and_clipped) {
     openAlbumList({}, {"Holidays"});
@@ -194,38 +153,40 @@ TEST_F(AlbumListPresentation, blurred_overlay_is_dark_and_clipped) {
     EXPECT_TRUE([[shown backgroundColor] isEqual:[UIColor clearColor]]);
 }
 
-struct WidthCase {
-    double screenWidth;
-    double stackWidth;
-    double side;
-};
-
-TEST_F(AlbumListPresentation, thumbnail_side_comes_from_the_screen_unless_the_stack_view_is_narrow) {
-    constexpr WidthCase cases[] = {
-        {390, 0, 170},   {390, 120, 120}, {390, 120.9, 120}, {390, 174.9, 174}, {390, 175, 170},
-        {390, 180, 170}, {320, 180, 136}, {375, 180, 164},   {414, 180, 180},   {768, 200, 334},
+TEST_F(AlbumListPresentation, thumbnail_side_comes_from_screen_corners_and_stack_view) {
+    constexpr struct {
+        double screenWidth;
+        double cornersWidth;
+        double stackWidth;
+        double side;
+    } cases[] = {
+        {320, 0, 180, 136},    {375, 0, 180, 164},   {414, 0, 180, 180}, {768, 0, 200, 334},
+        {390, 0, 0, 170},      {390, 0, 180, 170},   {390, 0, 175, 170}, {390, 0, 174.9, 174},
+        {390, 0, 120, 120},    {390, 0, 120.9, 120}, {414, 99, 0, 180},  {414, 100, 0, 180},
+        {414, 100.01, 0, 101}, {414, 119.5, 0, 120}, {414, 120, 0, 121}, {414, 120.9, 0, 121},
+        {414, 260, 0, 261},    {414, 260, 120, 120},
     };
     PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
-    UICollectionView* view = [list mainCollectionView];
-    for (const WidthCase& each : cases) {
-        SCOPED_TRACE(testing::Message() << each.stackWidth << " on " << each.screenWidth);
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message()
+                     << each.cornersWidth << " and " << each.stackWidth << " on " << each.screenWidth);
+        reloadPreferences({{"enabled", each.side != 121}});
         change([&](Conditions& conditions) { conditions.screen.width = each.screenWidth; });
         layOutScreen();
         NSIndexPath* path = photos::pathOfAlbum(list, "Holidays");
-        [view registerClass:[CellOfWidth class] forCellWithReuseIdentifier:@"album"];
-        stackWidth = each.stackWidth;
         [list viewWillAppear:NO];
-        auto configured = static_cast<PUAlbumListCell*>([list collectionView:view
-                                                      cellForItemAtIndexPath:path]);
-        ASSERT_TRUE([configured isKindOfClass:[CellOfWidth class]]);
-        UIView* shown = [[configured albumListCellContentView] viewWithTag:tag::lockOverlay];
+        PXRoundedCornerOverlayView* corners = [[[PXRoundedCornerOverlayView alloc]
+            initWithFrame:CGRectMake(0, 0, each.cornersWidth, 300)] autorelease];
+        [corners layoutSubviews];
+        stackWidth = each.stackWidth;
+        UIView* shown = [configure([CellOfWidth class], path) viewWithTag:tag::lockOverlay];
         EXPECT_EQ([shown frame], CGRectMake(0, 0, each.side, each.side));
     }
 }
 
 TEST_F(AlbumListPresentation, overlay_is_kept_and_resized_when_previews_are_turned_off) {
     useTallScreen();
-    std::vector<std::string> all;
+    Texts all;
     PUAlbumListViewController* list = openAlbumList();
     for (const auto& row : photos::describeAlbums(list))
         all.push_back(row.at("title"));
@@ -245,20 +206,42 @@ TEST_F(AlbumListPresentation, overlay_is_kept_and_resized_when_previews_are_turn
     EXPECT_THAT(titlesWithOverlay(), IsEmpty());
 }
 
-TEST_F(AlbumListPresentation, albums_of_one_title_are_locked_together) {
+TEST_F(AlbumListPresentation, what_the_file_lists_is_locked_by_title) {
     useTallScreen();
     library().addAlbum("Holidays");
     openAlbumList({}, {"Holidays"});
-    EXPECT_THAT(titlesWithOverlay(), ElementsAre("Holidays", "Holidays"));
+    EXPECT_THAT(titlesWithOverlay(), ElementsAre("Holidays", "Holidays")) << "albums of one title together";
+    const json strange = {1, {{"title", "Holidays"}}, "Family", {"Pets"}, true};
+    device().writePropertyList(file::lockedAlbums, strange);
+    reload();
+    EXPECT_THAT(titlesWithOverlay(), ElementsAre("Family")) << "what is no title locks nothing";
 }
 
-TEST_F(AlbumListPresentation, elements_of_the_list_that_are_no_titles_lock_nothing) {
-    useTallScreen();
-    const nlohmann::json strange = {1, {{"title", "Holidays"}}, "Family", {"Pets"}, true};
-    device().writePropertyList(file::lockedAlbums, strange);
-    openAlbumList();
-    EXPECT_THAT(titlesWithOverlay(), ElementsAre("Family"));
+TEST_F(AlbumListPresentation, only_a_missing_list_is_created) {
+    const struct {
+        const char* name;
+        std::optional<std::string> content;
+        bool isUnreadable;
+        std::vector<json> saved;
+    } cases[] = {
+        {"missing", std::nullopt, false, {json::array()}},
+        {"no property list", "{", false, {}},
+        {"unreadable", "{", true, {}},
+    };
+    PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
+    recordRequests();
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        device().remove(file::lockedAlbums);
+        if (each.content) device().writeFile(file::lockedAlbums, *each.content);
+        setUnreadable(each.isUnreadable ? file::lockedAlbums : nullptr);
+        [list viewWillAppear:NO];
+        EXPECT_EQ(takeSavedLists(), each.saved);
+        EXPECT_THAT(titlesWithOverlay(), IsEmpty());
+    }
 }
+
+#pragma mark Counts
 
 TEST_F(AlbumListPresentation, overlay_and_count_do_not_ask_for_the_master_switch) {
     hide({0});
@@ -287,66 +270,25 @@ TEST_F(AlbumListPresentation, album_titled_screenshots_shows_the_count_of_the_st
     useTallScreen();
     library().addAlbum("Screenshots", {identifier(0), identifier(1), identifier(2)});
     openAlbumList();
-    std::vector<std::string> counts;
+    Texts counts;
     for (const auto& row : photos::describeAlbums(photos::albumList()))
         if (row.at("title") == "Screenshots") counts.push_back(row.at("subtitle"));
     EXPECT_THAT(counts, ElementsAre("1", "1"));
 }
 
-TEST_F(AlbumListPresentation, every_configuration_adds_a_press_recogniser_to_the_cell) {
-    openAlbumList();
-    PUAlbumListCell* cell = photos::albumCell(photos::albumList(), "Holidays");
-    const NSUInteger before = [[cell gestureRecognizers] count];
-    ASSERT_GE(before, 1U);
-    for (UILongPressGestureRecognizer* press in [cell gestureRecognizers])
-        EXPECT_EQ([press minimumPressDuration], 0.9);
+#pragma mark Cells
 
-    reload();
-    EXPECT_EQ([[cell gestureRecognizers] count], before + 1);
-}
-
-TEST_F(AlbumListPresentation, every_appearance_adds_a_press_recogniser_to_the_bar) {
+TEST_F(AlbumListPresentation, press_recognisers_are_added_at_every_configuration_and_appearance) {
     PUAlbumListViewController* list = openAlbumList();
-    const auto presses = [&] { return [[[list navigationController] navigationBar] gestureRecognizers]; };
-    const NSUInteger before = [presses() count];
-    ASSERT_GE(before, 1U);
-    EXPECT_EQ([static_cast<UILongPressGestureRecognizer*>([presses() lastObject]) minimumPressDuration], 1.0);
-
-    [list viewWillAppear:NO];
-    EXPECT_EQ([presses() count], before + 1);
-}
-
-struct FileCase {
-    const char* name;
-    std::optional<std::string> content;
-    bool isUnreadable;
-    bool isCreated;
-};
-
-TEST_F(AlbumListPresentation, only_a_missing_list_is_created) {
-    const FileCase cases[] = {
-        {"missing", std::nullopt, false, true},
-        {"no property list", "{", false, false},
-        {"unreadable", "{", true, false},
-    };
-    PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
-    RequestRecorder* recorder = recordRequests();
-    for (const FileCase& each : cases) {
-        SCOPED_TRACE(each.name);
-        device().remove(file::lockedAlbums);
-        if (each.content) device().writeFile(file::lockedAlbums, *each.content);
-        change([&](Conditions& conditions) {
-            conditions.faults.unreadable.clear();
-            if (each.isUnreadable) conditions.faults.unreadable.push_back(file::lockedAlbums);
-        });
-        [list viewWillAppear:NO];
-        waitForRequests(recorder, each.isCreated ? 1 : 0);
-        const nlohmann::json creation = {{"id", "com.apple.mobileslideshow"},
-                                         {"array", nlohmann::json::array()},
-                                         {"path", "/var/mobile/Library/rollkeeper/lockedAlbums.plist"}};
-        EXPECT_EQ(recorder->requests, each.isCreated ? std::vector{creation} : std::vector<nlohmann::json>());
-        EXPECT_THAT(titlesWithOverlay(), IsEmpty());
-        recorder->requests.clear();
+    UIView* cell = photos::albumCell(list, "Holidays");
+    UIView* bar = [[list navigationController] navigationBar];
+    for (const auto& [view, duration] : {std::pair{cell, 0.9}, {bar, 1.0}}) {
+        const NSUInteger before = [[view gestureRecognizers] count];
+        ASSERT_GE(before, 1U);
+        for (UILongPressGestureRecognizer* press in [view gestureRecognizers])
+            EXPECT_EQ([press minimumPressDuration], duration);
+        view == cell ? reload() : [list viewWillAppear:NO];
+        EXPECT_EQ([[view gestureRecognizers] count], before + 1);
     }
 }
 
@@ -361,10 +303,12 @@ TEST_F(AlbumListPresentation, configured_cells_are_visible) {
 
 TEST_F(AlbumListPresentation, buttons_are_there_in_edit_mode_only) {
     openAlbumList();
-    EXPECT_TRUE(button("Holidays", tag::moveButton) == nil);
-    EXPECT_TRUE(button("Holidays", tag::lockButton) == nil);
-    EXPECT_TRUE(button("Camera Roll", tag::lockButton) == nil);
-
+    const auto expectNone = [&] {
+        for (const char* title : {"Holidays", "Camera Roll"})
+            for (const NSInteger tag : {tag::moveButton, tag::lockButton})
+                EXPECT_TRUE(button(title, tag) == nil) << title << tag;
+    };
+    expectNone();
     photos::setEditing(true);
     reload();
     EXPECT_EQ([button("Holidays", tag::moveButton) frame], CGRectMake(0, 40, 22, 22));
@@ -372,47 +316,42 @@ TEST_F(AlbumListPresentation, buttons_are_there_in_edit_mode_only) {
     EXPECT_TRUE([[contentView("Holidays") subviews] lastObject] == button("Holidays", tag::lockButton));
     EXPECT_EQ([button("Camera Roll", tag::lockButton) frame], CGRectMake(0, 10, 22, 22));
     EXPECT_TRUE(button("Camera Roll", tag::moveButton) == nil);
-
     photos::setEditing(false);
     layOutScreen();
-    EXPECT_TRUE(button("Holidays", tag::moveButton) == nil);
-    EXPECT_TRUE(button("Holidays", tag::lockButton) == nil);
+    expectNone();
 }
 
 TEST_F(AlbumListPresentation, cells_that_cannot_have_buttons_are_decorated_all_the_same) {
-    openAlbumList({}, {"Holidays"});
+    NSIndexPath* path = photos::pathOfAlbum(openAlbumList({}, {"Holidays"}), "Holidays");
     photos::setEditing(true);
-    PUAlbumListCell* cell = configure([OtherCell class], "Holidays");
-    auto content = static_cast<UIView*>([cell albumListCellContentView]);
+    UIView* content = configure([CellWithoutButtons class], path);
     EXPECT_TRUE([content viewWithTag:tag::lockOverlay] != nil);
     EXPECT_TRUE([content viewWithTag:tag::lockButton] == nil);
 }
 
-struct ImageCase {
-    const char* file;
-    int preview;
-    NSInteger ownerTag;
-};
-
 TEST_F(AlbumListPresentation, images_are_shown_where_they_are_installed) {
-    constexpr ImageCase cases[] = {{"whitelock.png", 0, tag::lockOverlay},
-                                   {"padlock.png", 1, tag::lockOverlay},
-                                   {"whitelock.png", 2, tag::lockOverlay},
-                                   {"move.png", 3, tag::moveButton},
-                                   {"greenlock.png", 3, tag::lockButton}};
-    openAlbumList({}, {"Holidays"});
+    constexpr struct {
+        const char* file;
+        int preview;
+        NSInteger ownerTag;
+    } cases[] = {{"whitelock.png", 0, tag::lockOverlay},
+                 {"padlock.png", 1, tag::lockOverlay},
+                 {"whitelock.png", 2, tag::lockOverlay},
+                 {"move.png", 3, tag::moveButton},
+                 {"greenlock.png", 3, tag::lockButton}};
+    PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
+    NSIndexPath* path = photos::pathOfAlbum(list, "Holidays");
     photos::setEditing(true);
     NSData* png = UIImagePNGRepresentation([UIImage imageWithPixelSize:CGSizeMake(4, 4) seed:1]);
     const std::string_view bytes(static_cast<const char*>([png bytes]), [png length]);
-    for (const ImageCase& each : cases) {
+    for (const auto& each : cases) {
         SCOPED_TRACE(each.file);
-        const std::string path = std::string("/Library/Application Support/rollkeeper/") + each.file;
+        const std::string image = std::string("/Library/Application Support/rollkeeper/") + each.file;
+        reloadPreferences({{"lockedAlbumPreview", each.preview}});
         for (const bool isInstalled : {false, true}) {
-            device().remove(path);
-            if (isInstalled) device().writeFile(path, bytes);
-            reloadPreferences({{"lockedAlbumPreview", each.preview}});
-            PUAlbumListCell* cell = configure([PUAlbumListCell class], "Holidays");
-            UIView* owner = [[cell albumListCellContentView] viewWithTag:each.ownerTag];
+            device().remove(image);
+            if (isInstalled) device().writeFile(image, bytes);
+            UIView* owner = [configure([PUAlbumListCell class], path) viewWithTag:each.ownerTag];
             UIView* shown = [[owner subviews] count] > 0 ? [[owner subviews] lastObject] : owner;
             ASSERT_TRUE([shown isKindOfClass:[UIImageView class]]);
             EXPECT_EQ([static_cast<UIImageView*>(shown) image] != nil, isInstalled);

@@ -1,4 +1,5 @@
-// Touching, deleting and unlocking a locked album in the album list; picking an album for photos.
+// What is asked before a locked album is opened, deleted, moved or unlocked, in the album list and in its
+// cells.
 #include "support/photos_fixture.h"
 
 #include "device/clock.h"
@@ -11,144 +12,169 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-enum class Action { open, deleteAlbum, removeLock };
+enum class Action { open, deleteAlbum, removeLock, removeLockByButton, moveByButton };
 
-struct AskCase {
-    int passOption;
-    BiometricOutcome outcome;
-    Asked expected;
-};
+// How a request for authorisation goes on.
+enum class Asked { nothing, forPassword, carriedOn };
 
-constexpr AskCase askCases[] = {
-    {0, BiometricOutcome::success, Asked::carriedOn},
-    {0, BiometricOutcome::failed, Asked::forPassword},
-    {0, BiometricOutcome::userCancel, Asked::forPassword},
-    {0, BiometricOutcome::userFallback, Asked::forPassword},
-    {0, BiometricOutcome::notAvailable, Asked::forPassword},
-    {0, BiometricOutcome::refusedWithoutError, Asked::nothing},
-    {1, BiometricOutcome::success, Asked::forPassword},
-    {2, BiometricOutcome::failed, Asked::carriedOn},
-    {1, BiometricOutcome::success, Asked::forPassword},
-    {7, BiometricOutcome::failed, Asked::carriedOn},
-    {0, BiometricOutcome::failed, Asked::forPassword},
-};
+std::ostream& operator<<(std::ostream& out, Asked asked) {
+    constexpr const char* names[] = {"asked nothing", "asked for the password", "carried on"};
+    return out << names[static_cast<std::size_t>(asked)];
+}
 
-struct PasswordCase {
-    std::optional<std::string> stored;
-    bool isUnreadable;
-    const char* typed;
-    std::vector<std::string> banners;
-};
-
-class AlbumListUnlocking : public PhotosTest {
+class Unlocking : public PhotosTest {
   protected:
-    AlbumListUnlocking() {
-        change([](Conditions& conditions) { conditions.manualClock = true; });
-    }
-    void perform(Action action) {
-        if (action == Action::open) photos::tapAlbum("Holidays");
-        if (action == Action::deleteAlbum) photos::tapDeleteAlbum("Holidays");
-        if (action == Action::removeLock) longPress(photos::albumCell(photos::albumList(), "Holidays"), 1);
-    }
-    bool wasPerformed(Action action) {
-        if (action == Action::open) return hasOpenedAlbum();
-        if (action == Action::deleteAlbum) return alertTitle() == "Delete “Holidays”";
-        return !m_recorder->requests.empty();
-    }
-    Asked result(Action action) {
-        if (isAskedForPassword()) return Asked::forPassword;
-        return wasPerformed(action) ? Asked::carriedOn : Asked::nothing;
+    Unlocking() {
+        useManualClock();
+        useTallScreen();
     }
     void openLocked(int passOption) {
         openAlbumList({{"passOption", passOption}}, {"Holidays"});
-        m_recorder = recordRequests();
+        recordRequests();
     }
-
-    RequestRecorder* m_recorder = nil;
 };
 
-class EachAction : public AlbumListUnlocking, public testing::WithParamInterface<Action> {};
+class EachAction : public Unlocking, public testing::WithParamInterface<Action> {
+  protected:
+    const bool isOfCell = GetParam() >= Action::removeLockByButton;
+
+    void openLocked() {
+        Unlocking::openLocked(1);
+        if (!isOfCell && GetParam() != Action::deleteAlbum) return;
+        photos::setEditing(true);
+        reload();
+    }
+    void perform() {
+        switch (GetParam()) {
+        case Action::open:
+            return photos::tapAlbum("Holidays");
+        case Action::deleteAlbum:
+            return photos::tapDeleteAlbum("Holidays");
+        case Action::removeLock:
+            longPress(photos::albumCell(photos::albumList(), "Holidays"), 1);
+            return;
+        case Action::removeLockByButton:
+            return tapButton("Holidays", tag::lockButton);
+        case Action::moveByButton:
+            return tapButton("Holidays", tag::moveButton);
+        }
+    }
+    // Of the action performed last; an unlocked album has been sent to be written.
+    Asked result() {
+        const bool isSaved = !takeSavedLists().empty();
+        if (isAskedForPassword()) return Asked::forPassword;
+        const bool isDone = isSaved || hasOpenedAlbum() || alertTitle() == "Delete “Holidays”" ||
+                            alertTitle() == "Move Album";
+        return isDone ? Asked::carriedOn : Asked::nothing;
+    }
+    // A move leaves its grant, which would serve the next case.
+    void startAgain() {
+        goBack();
+        if (GetParam() == Action::moveByButton) {
+            reloadPreferences({{"passOption", 2}});
+            [contentView("Holidays") lockAlbum];
+            EXPECT_EQ(takeSavedLists().size(), 1U);
+        }
+        for (int second = 0; second < 4; ++second)
+            clock().advance(1);
+        settle();
+        EXPECT_THAT(bannerTexts(), IsEmpty());
+    }
+};
 
 TEST_P(EachAction, is_carried_on_as_the_setting_and_the_owner_say) {
-    openLocked(1);
-    if (GetParam() == Action::deleteAlbum) photos::setEditing(true);
-    for (const AskCase& each : askCases) {
+    using enum BiometricOutcome;
+    constexpr struct {
+        int passOption;
+        BiometricOutcome outcome;
+        Asked inList;
+        Asked inCell;
+    } cases[] = {
+        {0, success, Asked::carriedOn, Asked::carriedOn},
+        {0, failed, Asked::forPassword, Asked::nothing},
+        {0, userCancel, Asked::forPassword, Asked::nothing},
+        {0, userFallback, Asked::forPassword, Asked::forPassword},
+        {0, notAvailable, Asked::forPassword, Asked::forPassword},
+        {0, refusedWithoutError, Asked::nothing, Asked::nothing},
+        {1, success, Asked::forPassword, Asked::forPassword},
+        {2, failed, Asked::carriedOn, Asked::carriedOn},
+        {1, success, Asked::forPassword, Asked::forPassword},
+        {-1, failed, Asked::carriedOn, Asked::carriedOn},
+        {0, failed, Asked::forPassword, Asked::nothing},
+    };
+    openLocked();
+    std::size_t evaluations = 0;
+    for (const auto& each : cases) {
         SCOPED_TRACE(testing::Message() << each.passOption << " outcome " << static_cast<int>(each.outcome));
+        startAgain();
         change([&](Conditions& conditions) { conditions.biometricOutcome = each.outcome; });
         reloadPreferences({{"passOption", each.passOption}});
-        m_recorder->requests.clear();
-        perform(GetParam());
-        if (each.passOption == 0) EXPECT_EQ(result(GetParam()), Asked::nothing) << "not by the main queue";
-        if (each.expected == Asked::nothing)
-            settle();
+        perform();
+        const bool isEvaluated = each.passOption == 0 && each.outcome != notAvailable;
+        const Asked expected = isOfCell ? each.inCell : each.inList;
+        if (isEvaluated || (each.passOption == 0 && !isOfCell))
+            EXPECT_TRUE(frontAlert() == nil && !hasOpenedAlbum()) << "not by the main queue";
         else
-            host().runUntil([&] { return result(GetParam()) == each.expected; });
-        EXPECT_EQ(result(GetParam()), each.expected);
-        goBack();
+            EXPECT_EQ(isAskedForPassword(), expected == Asked::forPassword);
+        EXPECT_EQ(result(), expected);
+        evaluations += isEvaluated ? 1 : 0;
+        EXPECT_EQ(unlockReasons(), Texts(evaluations, "Holidays needs to be unlocked."));
     }
 }
 
+TEST_P(EachAction, is_carried_on_by_a_right_or_missing_password_in_the_cell_alone) {
+    const Texts none = {"No password set"};
+    const Texts wrong = {isOfCell ? "Incorrect password." : "Incorrect password"};
+    const struct {
+        std::optional<std::string> stored;
+        bool isUnreadable;
+        const char* typed;
+        Texts banners;
+    } cases[] = {
+        {std::nullopt, false, "secret", none},
+        {std::nullopt, false, "", none},
+        {"secret", false, "secret", {}},
+        {"secret", false, "Secret", wrong},
+        {"secret", false, "", wrong},
+        {"secret\n", false, "secret", wrong},
+        {"", false, "", {}},
+        {"pässwört", false, "pässwört", {}},
+        {"secret", true, "wrong", none},
+        {"\xff\xfe\xfd", false, "wrong", none},
+    };
+    openLocked();
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message() << each.stored.value_or("(none)") << " typed " << each.typed);
+        startAgain();
+        setPassword(each.stored);
+        setUnreadable(each.isUnreadable ? file::password : nullptr);
+        reloadPreferences({{"passOption", 1}});
+        perform();
+        EXPECT_EQ(shownAlert(), (Texts{"alert", "Unlock album", "Enter password to unlock album.",
+                                       "[Password*]", "OK", "Cancel (cancel)"}));
+        answerPassword(each.typed);
+        EXPECT_EQ(bannerTexts(), each.banners);
+        EXPECT_EQ(result(), isOfCell && each.banners != wrong ? Asked::carriedOn : Asked::nothing);
+    }
+    startAgain();
+    perform();
+    tapAlertAction("Cancel");
+    EXPECT_EQ(result(), Asked::nothing);
+    EXPECT_THAT(bannerTexts(), IsEmpty());
+}
+
 std::string nameOf(const testing::TestParamInfo<Action>& info) {
-    constexpr const char* names[] = {"open", "delete", "remove_lock"};
+    constexpr const char* names[] = {"open", "delete", "remove_lock", "remove_lock_by_button",
+                                     "move_by_button"};
     return names[static_cast<std::size_t>(info.param)];
 }
 
 INSTANTIATE_TEST_SUITE_P(Actions, EachAction,
-                         testing::Values(Action::open, Action::deleteAlbum, Action::removeLock), nameOf);
+                         testing::Values(Action::open, Action::deleteAlbum, Action::removeLock,
+                                         Action::removeLockByButton, Action::moveByButton),
+                         nameOf);
 
-TEST_P(EachAction, is_not_carried_on_by_any_password) {
-    const PasswordCase cases[] = {
-        {std::nullopt, false, "secret", {"No password set"}},
-        {std::nullopt, false, "", {"No password set"}},
-        {"secret", false, "secret", {}},
-        {"secret", false, "Secret", {"Incorrect password"}},
-        {"secret", false, "", {"Incorrect password"}},
-        {"secret\n", false, "secret", {"Incorrect password"}},
-        {"", false, "", {}},
-        {"pässwört", false, "pässwört", {}},
-        {"secret", true, "secret", {"No password set"}},
-        {"\xff\xfe\xfd", false, "secret", {"No password set"}},
-    };
-    openLocked(1);
-    if (GetParam() == Action::deleteAlbum) photos::setEditing(true);
-    for (const PasswordCase& each : cases) {
-        SCOPED_TRACE(testing::Message() << each.stored.value_or("(none)") << " typed " << each.typed);
-        setPassword(each.stored);
-        change([&](Conditions& conditions) {
-            conditions.faults.unreadable.clear();
-            if (each.isUnreadable) conditions.faults.unreadable.push_back(file::password);
-        });
-        perform(GetParam());
-        ASSERT_TRUE(isAskedForPassword());
-        answerPassword(each.typed);
-        settle();
-        EXPECT_EQ(bannerTexts(), each.banners);
-        EXPECT_EQ(result(GetParam()), Asked::nothing);
-        clock().advance(2);
-        host().drain();
-    }
-}
-
-TEST_F(AlbumListUnlocking, alert_asks_for_a_secret) {
-    openLocked(1);
-    photos::tapAlbum("Holidays");
-    const nlohmann::json expected = {
-        {"title", "Unlock album"},
-        {"message", "Enter password to unlock album."},
-        {"style", "alert"},
-        {"actions",
-         {{{"title", "OK"}, {"style", "default"}, {"enabled", true}},
-          {{"title", "Cancel"}, {"style", "cancel"}, {"enabled", true}}}},
-        {"textFields", {{{"text", ""}, {"placeholder", "Password"}, {"secure", true}}}},
-        {"anchor", nullptr}};
-    EXPECT_EQ(viewTreeAsJson().at("alert"), expected);
-    tapAlertAction("Cancel");
-    settle();
-    EXPECT_FALSE(hasOpenedAlbum());
-    EXPECT_THAT(bannerTexts(), IsEmpty());
-}
-
-TEST_F(AlbumListUnlocking, touch_id_tells_which_album) {
+TEST_F(Unlocking, touch_id_tells_which_album) {
     library().addAlbum("100% “us”");
     openAlbumList({}, {"100% “us”"});
     photos::tapAlbum("100% “us”");
@@ -156,22 +182,18 @@ TEST_F(AlbumListUnlocking, touch_id_tells_which_album) {
     EXPECT_THAT(unlockReasons(), ElementsAre("100% “us” needs to be unlocked."));
 }
 
-TEST_F(AlbumListUnlocking, unlocked_albums_open_without_question) {
+TEST_F(Unlocking, of_an_album_asks_the_list_in_memory) {
     openLocked(1);
     photos::tapAlbum("Family");
-    EXPECT_TRUE(hasOpenedAlbum());
-    EXPECT_TRUE(frontAlert() == nil);
-}
-
-TEST_F(AlbumListUnlocking, selection_asks_the_list_in_memory) {
-    openLocked(1);
+    EXPECT_TRUE(hasOpenedAlbum() && frontAlert() == nil) << "it is not locked";
+    goBack();
     photos::albumCell(photos::albumList(), "Holidays"); // no other cell is configured while it is tapped
     lockAlbums({});
     photos::tapAlbum("Holidays");
     EXPECT_TRUE(isAskedForPassword());
 }
 
-TEST_F(AlbumListUnlocking, locked_album_is_left_with_the_application_until_another_is_selected) {
+TEST_F(Unlocking, of_an_album_lasts_until_another_is_selected_for_the_application_leaves_it) {
     openLocked(2);
     photos::tapAlbum("Holidays");
     ASSERT_TRUE(hasOpenedAlbum());
@@ -184,25 +206,62 @@ TEST_F(AlbumListUnlocking, locked_album_is_left_with_the_application_until_anoth
     EXPECT_TRUE(hasOpenedAlbum());
 }
 
-TEST_F(AlbumListUnlocking, unknown_purpose_grants_the_next_action_only) {
+TEST_F(Unlocking, for_an_unknown_purpose_grants_the_next_action_only) {
     openLocked(1);
+    const auto expectGrant = [&] {
+        EXPECT_TRUE(frontAlert() == nil && !hasOpenedAlbum());
+        photos::tapAlbum("Holidays");
+        EXPECT_TRUE(hasOpenedAlbum());
+        goBack();
+        photos::tapAlbum("Holidays");
+        EXPECT_TRUE(isAskedForPassword());
+        goBack();
+    };
     [photos::albumList() unlockAuthorised:9];
-    EXPECT_FALSE(hasOpenedAlbum());
-    photos::tapAlbum("Holidays");
-    EXPECT_TRUE(hasOpenedAlbum());
-    goBack();
-    photos::tapAlbum("Holidays");
-    EXPECT_TRUE(isAskedForPassword());
+    expectGrant();
+    [contentView("Holidays") unlockAuthorised:5];
+    expectGrant();
 }
 
-TEST_F(AlbumListUnlocking, banner_lives_for_a_second_between_its_fades) {
+TEST_F(Unlocking, of_a_failed_press_is_asked_again) {
+    openLocked(0);
+    for (const auto outcome :
+         {BiometricOutcome::refusedWithoutError, BiometricOutcome::success,
+          BiometricOutcome::refusedWithoutError, BiometricOutcome::refusedWithoutError}) {
+        change([&](Conditions& conditions) { conditions.biometricOutcome = outcome; });
+        longPress(photos::albumCell(photos::albumList(), "Holidays"), 1);
+        const bool succeeds = outcome == BiometricOutcome::success;
+        EXPECT_EQ(takeSavedLists(), std::vector<json>(succeeds ? 1 : 0, json::array()));
+    }
+}
+
+// The grant of a move stays for the next action that looks at it.
+TEST_F(Unlocking, for_a_move_leaves_the_next_unlock_without_question) {
+    openAlbumList({{"passOption", 2}}, {"Family", "Holidays"});
+    recordRequests();
+    photos::setEditing(true);
+    reload();
+    tapButton("Holidays", tag::moveButton);
+    EXPECT_EQ(alertTitle(), "Move Album");
+    tapAlertAction("Cancel");
+
+    reloadPreferences({{"passOption", 1}});
+    tapButton("Family", tag::lockButton);
+    EXPECT_TRUE(frontAlert() == nil);
+    EXPECT_THAT(takeSavedLists(), ElementsAre(json{"Holidays"}));
+    layOutScreen();
+    tapButton("Holidays", tag::lockButton);
+    EXPECT_TRUE(isAskedForPassword()) << "one authorisation served twice";
+}
+
+TEST_F(Unlocking, banner_lives_for_a_second_between_its_fades) {
     openLocked(1);
     photos::tapAlbum("Holidays");
     answerPassword("x");
     ASSERT_THAT(bannerTexts(), ElementsAre("No password set"));
     UIView* banner = banners().front();
     auto label = static_cast<UILabel*>([[banner subviews] firstObject]);
-    EXPECT_EQ([banner frame], CGRectMake(97.5, 303.5, 180, 45));
+    EXPECT_EQ([banner frame], CGRectMake(97.5, 970, 180, 45));
     EXPECT_TRUE([[banner backgroundColor] isEqual:[UIColor colorWithWhite:0 alpha:0.8]]);
     EXPECT_EQ([[banner layer] cornerRadius], 15);
     EXPECT_FALSE([banner isUserInteractionEnabled]);
@@ -218,154 +277,6 @@ TEST_F(AlbumListUnlocking, banner_lives_for_a_second_between_its_fades) {
     clock().advance(0.05);
     EXPECT_THAT(bannerTexts(), IsEmpty());
 }
-
-// Picking an album for the sample's ninth photo.
-class AlbumPicking : public PhotosTest {
-  protected:
-    AlbumPicking() {
-        change([](Conditions& conditions) { conditions.screen.height = 2000; });
-    }
-    void startPicking(const nlohmann::json& preferences = {}, const std::vector<std::string>& locked = {}) {
-        library().addAlbum("Camera Roll");
-        library().addAlbum("Zoo");
-        if (!preferences.is_null()) writePreferences(preferences);
-        lockAlbums(locked);
-        start(host::photos);
-        photos::selectPhotos(photos::openMoments(), {8});
-        photos::addSelectionToAlbum();
-    }
-    bool asksMoveOrCopy() { return alertTitle() == "Add photos to album"; }
-    bool isPicking() { return [photos::library() presentedViewController] != nil; }
-    // The user's album of that title, not the stock one.
-    void tapCameraRollOfUser() {
-        for (PUAlbumListCell* cell in [[photos::albumList() mainCollectionView] visibleCells]) {
-            PUAlbumListCellContentView* content = [cell albumListCellContentView];
-            if (text([content title]) == "Camera Roll" && [content editCapabilities] == 7) tap(cell);
-        }
-    }
-};
-
-struct ChoiceCase {
-    const char* choice;
-    bool isAdded;
-    bool isHidden;
-};
-
-class MoveOrCopy : public AlbumPicking, public testing::WithParamInterface<ChoiceCase> {};
-
-TEST_P(MoveOrCopy, is_what_the_user_chose) {
-    startPicking();
-    photos::tapAlbum("Pets");
-    const nlohmann::json expected = {{"title", "Add photos to album"},
-                                     {"message", "Move or copy photos to the album?"},
-                                     {"style", "actionSheet"},
-                                     {"actions",
-                                      {{{"title", "Move"}, {"style", "default"}, {"enabled", true}},
-                                       {{"title", "Copy"}, {"style", "default"}, {"enabled", true}},
-                                       {{"title", "Cancel"}, {"style", "cancel"}, {"enabled", true}}}},
-                                     {"textFields", nlohmann::json::array()},
-                                     {"anchor", nullptr}};
-    EXPECT_EQ(viewTreeAsJson().at("alert"), expected);
-    tapAlertAction(GetParam().choice);
-    if (GetParam().isAdded) waitFor([&] { return !numbersIn("Pets").empty(); });
-    if (GetParam().isHidden) waitFor([&] { return isHidden(8); });
-    settle();
-    EXPECT_EQ(numbersIn("Pets"),
-              GetParam().isAdded ? std::vector<std::size_t>{8} : std::vector<std::size_t>());
-    EXPECT_EQ(isHidden(8), GetParam().isHidden);
-}
-
-INSTANTIATE_TEST_SUITE_P(Choices, MoveOrCopy,
-                         testing::Values(ChoiceCase{"Move", true, true}, ChoiceCase{"Copy", true, false},
-                                         ChoiceCase{"Cancel", false, false}),
-                         [](const auto& info) { return info.param.choice; });
-
-TEST_F(AlbumPicking, camera_roll_is_not_asked_about) {
-    startPicking();
-    tapCameraRollOfUser();
-    EXPECT_TRUE(frontAlert() == nil);
-    waitFor([&] { return numbersIn("Camera Roll").size() == 1; });
-    EXPECT_FALSE(isHidden(8));
-}
-
-TEST_F(AlbumPicking, locked_albums_are_unlocked_before_the_question) {
-    startPicking({{"passOption", 1}}, {"Pets", "Camera Roll"});
-    photos::tapAlbum("Pets");
-    EXPECT_TRUE(isAskedForPassword());
-    tapAlertAction("Cancel");
-    EXPECT_THAT(numbersIn("Pets"), IsEmpty());
-
-    reloadPreferences({{"passOption", 2}});
-    photos::tapAlbum("Pets");
-    EXPECT_TRUE(asksMoveOrCopy());
-    tapAlertAction("Cancel");
-    tapCameraRollOfUser();
-    EXPECT_TRUE(asksMoveOrCopy()) << "after an unlock Camera Roll is an album like others";
-}
-
-// What is known of an album beyond the screen, where only the newer of the platform's two methods finds a
-// cell.
-struct AnchorCase {
-    Release release;
-    std::optional<double> version;
-    bool titleIsKnown;
-    bool touchPointsAtCell;
-    bool replayPointsAtCell;
-};
-
-std::ostream& operator<<(std::ostream& out, const AnchorCase& each) {
-    return out << releaseName(each.release) << " " << each.version.value_or(0);
-}
-
-class PadAnchor : public AlbumPicking, public testing::WithParamInterface<AnchorCase> {
-  protected:
-    // Closes the sheet.
-    bool pointsAtCell() {
-        UIPopoverPresentationController* popover = [frontAlert() popoverPresentationController];
-        EXPECT_TRUE(asksMoveOrCopy());
-        EXPECT_EQ([frontAlert() modalPresentationStyle], UIModalPresentationPopover);
-        const bool isCell = [[popover sourceView] isKindOfClass:[PUAlbumListCellContentView class]];
-        EXPECT_EQ([popover sourceRect], isCell ? [[popover sourceView] bounds] : CGRectZero);
-        tapAlertAction("Cancel");
-        return isCell;
-    }
-};
-
-TEST_P(PadAnchor, is_looked_up_as_the_version_says) {
-    change([](Conditions& conditions) {
-        conditions.idiom = Idiom::pad;
-        conditions.screen = {.width = 320, .height = 480};
-        conditions.release = GetParam().release;
-        conditions.coreFoundationVersion = GetParam().version;
-    });
-    startPicking({{"passOption", 1}});
-    PUAlbumListViewController* list = photos::albumList();
-    NSIndexPath* path = photos::pathOfAlbum(list, "Zoo");
-    ASSERT_TRUE([[list mainCollectionView] cellForItemAtIndexPath:path] == nil)
-        << "the album is on the screen";
-
-    [list didSelectItemAtIndexPath:path];
-    EXPECT_EQ(pointsAtCell(), GetParam().touchPointsAtCell);
-    [list unlockAuthorised:0];
-    EXPECT_EQ(pointsAtCell(), GetParam().replayPointsAtCell);
-    [list didSelectItemAtIndexPath:[NSIndexPath indexPathForItem:0 inSection:0]];
-    EXPECT_TRUE(pointsAtCell()) << "on the screen every version finds the cell";
-
-    lockAlbums({"Zoo"});
-    reload();
-    [list didSelectItemAtIndexPath:path];
-    EXPECT_EQ(isAskedForPassword(), GetParam().titleIsKnown);
-}
-
-INSTANTIATE_TEST_SUITE_P(Versions, PadAnchor,
-                         testing::Values(AnchorCase{Release::complete, 1348.0, false, false, false},
-                                         AnchorCase{Release::complete, 1348.01, false, true, false},
-                                         AnchorCase{Release::complete, 1349.0, false, true, false},
-                                         AnchorCase{Release::complete, 1349.01, true, true, true},
-                                         AnchorCase{Release::ios10_1, {}, false, false, false},
-                                         AnchorCase{Release::ios10_2, {}, false, false, false},
-                                         AnchorCase{Release::ios10_3, {}, true, true, true},
-                                         AnchorCase{Release::ios12_4, {}, true, true, true}));
 
 } // namespace
 } // namespace simulator::test
