@@ -3,6 +3,8 @@
 
 #import "UIKit/UIKit.h"
 
+#include "device/strings.h"
+
 #include <functional>
 #include <string>
 
@@ -18,9 +20,5 @@ void waitUntil(const std::function<bool()>& condition, const std::string& what, 
 
 /// Lays out the key window, as happens before every frame.
 void layOutScreen();
-
-/// UTF-8 both ways; the empty string for nil.
-std::string text(NSString* string);
-NSString* string(const std::string& text);
 
 } // namespace simulator

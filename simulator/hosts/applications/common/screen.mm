@@ -37,11 +37,4 @@ void waitUntil(const std::function<bool()>& condition, const std::string& what, 
 
 void layOutScreen() { [[[UIApplication sharedApplication] keyWindow] layoutIfNeeded]; }
 
-std::string text(NSString* string) {
-    const char* bytes = [string UTF8String];
-    return bytes ? bytes : "";
-}
-
-NSString* string(const std::string& text) { return [NSString stringWithUTF8String:text.c_str()]; }
-
 } // namespace simulator
