@@ -20,5 +20,5 @@ target_compile_options(linux_build INTERFACE -fblocks -fexceptions
     "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-runtime=gcc;-fobjc-exceptions;-fconstant-string-class=NSConstantString>")
 # BlocksRuntime comes first: gnustep-base has a _Block_copy too, which hands back the block on the stack.
 target_link_libraries(linux_build INTERFACE
-    BlocksRuntime -l:libgnustep-base.so.1.28 -l:libobjc.so.4 sqlite3 ffi png16 pthread dl m)
+    BlocksRuntime -l:libgnustep-base.so.1.28 -l:libobjc.so.4 SQLiteCpp sqlite3 ffi png16 pthread dl m)
 target_link_options(linux_build INTERFACE -fuse-ld=lld)

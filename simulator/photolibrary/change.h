@@ -3,47 +3,35 @@
 
 #include "photolibrary/records.h"
 
-#include <optional>
-#include <string>
-#include <string_view>
 #include <variant>
-#include <vector>
 
 namespace simulator {
 
 class Connection;
 
-using Identifiers = std::vector<std::string>;
+/// A new identifier in the platform's form, of an album unless the suffix says otherwise.
+std::string newIdentifier(const char* suffix = "/L0/040");
 
-/// New identifiers in the platform's form, from the system's random numbers.
-std::string newAssetIdentifier();
-std::string newAlbumIdentifier();
-std::string newFolderIdentifier();
-
-/// Members are requests in the order in which they are carried out. They name assets and collections by
-/// identifier, also those that an earlier request of the same change makes.
+/// Requests are carried out in their order. They name assets and collections by identifier, also those that
+/// an earlier request of the same change makes.
 class Change {
   public:
     struct AddAsset {
         Asset asset;
-        std::string png; ///< empty: the picture is made from the seed
+        std::optional<std::string> png; ///< without one, the picture is made from the seed
     };
     struct AddCollection {
         Collection collection;
         std::optional<std::string> folder;
     };
+    /// At the end; assets that are in the album stay where they are.
     struct AddMembers {
         std::string album;
         Identifiers assets;
-        std::optional<std::size_t> index; ///< at the end when not set
     };
     struct RemoveMembers {
         std::string album;
         Identifiers assets;
-    };
-    struct SetTitle {
-        std::string collection;
-        std::optional<std::string> title;
     };
     struct DeleteCollection {
         std::string collection;
@@ -52,30 +40,32 @@ class Change {
     struct EditAsset {
         std::string asset;
         std::optional<bool> hidden = std::nullopt;
-        std::optional<bool> favorite = std::nullopt;
         std::optional<bool> trashed = std::nullopt;
-        std::optional<double> created = std::nullopt;
     };
     /// Moves an asset to the trash; one that is there leaves the library.
     struct DeleteAsset {
         std::string asset;
     };
-    using Request = std::variant<AddAsset, AddCollection, AddMembers, RemoveMembers, SetTitle,
-                                 DeleteCollection, EditAsset, DeleteAsset>;
+    using Request = std::variant<AddAsset, AddCollection, AddMembers, RemoveMembers, DeleteCollection,
+                                 EditAsset, DeleteAsset>;
+
+    explicit Change(std::vector<Request> requests = {}) : m_requests(std::move(requests)) {}
 
     void add(Request request) { m_requests.push_back(std::move(request)); }
 
     /// Returns the new identifier.
-    std::string addAsset(Asset asset, std::string png = {});
+    std::string addAsset(Asset asset, std::optional<std::string> png = std::nullopt);
     std::string addAlbum(std::optional<std::string> title, std::optional<std::string> folder = std::nullopt,
                          std::int64_t subtype = collectionSubtype::regularAlbum);
-    std::string addFolder(std::optional<std::string> title, std::optional<std::string> folder = std::nullopt);
+    std::string addFolder(std::optional<std::string> title);
 
-    bool empty() const { return m_requests.empty(); }
-    /// Throws DatabaseError, naming what is not there, and leaves it to the caller to take everything back.
+    /// Throws SQLite::Exception, naming what is not there, and leaves it to the caller to take everything
+    /// back.
     void carryOut(Connection& connection) const;
 
   private:
+    std::string add(Collection collection, std::optional<std::string> folder);
+
     std::vector<Request> m_requests;
 };
 

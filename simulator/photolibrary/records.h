@@ -9,39 +9,27 @@
 
 namespace simulator {
 
-enum class MediaType : std::int64_t { unknown = 0, image = 1, video = 2, audio = 3 };
+enum class MediaType : std::int64_t { image = 1, video = 2 };
 
 /// Bits of Asset::mediaSubtypes, with the platform's values.
 namespace mediaSubtype {
-inline constexpr std::int64_t panorama = 1 << 0;
-inline constexpr std::int64_t highDynamicRange = 1 << 1;
 inline constexpr std::int64_t screenshot = 1 << 2;
 inline constexpr std::int64_t livePhoto = 1 << 3;
-inline constexpr std::int64_t depthEffect = 1 << 4;
-inline constexpr std::int64_t streamedVideo = 1 << 16;
-inline constexpr std::int64_t highFrameRateVideo = 1 << 17;
-inline constexpr std::int64_t timelapseVideo = 1 << 18;
 } // namespace mediaSubtype
 
 /// Bits of Asset::traits: what smart albums know of an asset beyond its public properties.
 namespace trait {
 inline constexpr std::int64_t selfPortrait = 1 << 0;
-inline constexpr std::int64_t burst = 1 << 1;
-inline constexpr std::int64_t animated = 1 << 2;
-inline constexpr std::int64_t longExposure = 1 << 3;
-inline constexpr std::int64_t located = 1 << 4;
 } // namespace trait
 
 /// A photo or video. Its picture is made from the seed unless one is stored.
 struct Asset {
-    std::int64_t row = 0;
     // Written out so that designated initialisers may leave it out.
     std::string identifier = {}; // NOLINT(readability-redundant-member-init): empty, the library gives one
     MediaType mediaType = MediaType::image;
     std::int64_t mediaSubtypes = 0;
     std::int64_t traits = 0;
     std::optional<double> created = std::nullopt; ///< seconds since 1 January 2001, UTC
-    double duration = 0;                          ///< seconds, of a video
     bool hidden = false;
     bool favorite = false;
     bool trashed = false;
@@ -56,31 +44,21 @@ enum class CollectionKind : std::int64_t { album = 1, smartAlbum = 2, moment = 3
 namespace collectionSubtype {
 inline constexpr std::int64_t regularAlbum = 2;
 inline constexpr std::int64_t regularFolder = 100;
-inline constexpr std::int64_t allHidden = 205;
-inline constexpr std::int64_t userLibrary = 209;
 inline constexpr std::int64_t trashBin = 1'000'000'201;
 inline constexpr std::int64_t any = std::numeric_limits<std::int64_t>::max();
 } // namespace collectionSubtype
 
 /// An album, smart album, moment or folder. Albums and folders are stored, the others computed.
 struct Collection {
-    std::int64_t row = 0; ///< of a moment its day, of a smart album its subtype
-    std::string identifier;
+    std::int64_t row = 0;        ///< of a moment its day
+    std::string identifier = {}; // NOLINT(readability-redundant-member-init): may be left out
     CollectionKind kind = CollectionKind::album;
     std::int64_t subtype = collectionSubtype::regularAlbum;
-    std::optional<std::string> title;
-    std::optional<double> started; ///< of a moment: the date of its oldest asset
-    std::optional<double> ended;   ///< and of its newest
-
-    bool isTrashBin() const {
-        return kind == CollectionKind::smartAlbum && subtype == collectionSubtype::trashBin;
-    }
-    bool isEditable() const {
-        return kind == CollectionKind::album && subtype == collectionSubtype::regularAlbum;
-    }
+    std::optional<std::string> title = std::nullopt;
 };
 
 using Assets = std::vector<Asset>;
 using Collections = std::vector<Collection>;
+using Identifiers = std::vector<std::string>;
 
 } // namespace simulator

@@ -1,4 +1,5 @@
-// Sample libraries: the same content every time, from ten photos to a hundred thousand.
+// Sample libraries, from ten photos to a hundred thousand: apart from identifiers the same content every
+// time.
 #pragma once
 
 #include "photolibrary/library.h"
@@ -15,8 +16,8 @@ struct SampleSize {
     std::size_t albums;
 };
 
-/// Assets of every kind spread evenly over the albums, some hidden, favourite or in the trash; titles that
-/// repeat, that are missing, and with quotes and emoji; a tenth of the albums lies in folders.
+/// Assets spread evenly over the albums, some hidden, favourite or in the trash; titles that repeat, that are
+/// missing, and with quotes and emoji; a tenth of the albums lies in folders.
 void addSample(PhotoLibrary& library, SampleSize size);
 
 } // namespace simulator

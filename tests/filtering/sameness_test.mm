@@ -68,7 +68,7 @@ class Sameness : public FilteringTest, public testing::WithParamInterface<const 
                                 oneIn(5) ? 101 : collectionSubtype::regularAlbum);
             Identifiers members = m_assets;
             members.resize(below(7));
-            change.add(Change::AddMembers{album, members, std::nullopt});
+            change.add(Change::AddMembers{album, members});
         }
         library().apply(change);
     }

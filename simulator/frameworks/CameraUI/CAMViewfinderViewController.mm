@@ -13,7 +13,6 @@ UIImage* pictureOfNewestPhoto() {
     PHFetchOptions* newestFirst = [[[PHFetchOptions alloc] init] autorelease];
     [newestFirst setSortDescriptors:@[ [NSSortDescriptor sortDescriptorWithKey:@"creationDate"
                                                                      ascending:NO] ]];
-    [newestFirst setFetchLimit:1];
     PHAsset* newest = [[PHAsset fetchAssetsWithOptions:newestFirst] firstObject];
     if (newest == nil) return nil;
     PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];

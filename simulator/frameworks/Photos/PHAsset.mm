@@ -10,46 +10,53 @@ namespace {
 
 constexpr std::size_t keyAssetCount = 3;
 
+/// In the order of the identifiers, without those that are gone or left out.
+Assets assetsNamed(NSArray* identifiers, const AssetFilter& filter) {
+    return withLibrary([&](PhotoLibrary& library) {
+        Assets assets;
+        for (NSString* identifier in identifiers)
+            if (const auto asset = library.asset(simulator::text(identifier));
+                asset && !asset->trashed && (filter.includeHidden || !asset->hidden))
+                assets.push_back(*asset);
+        return assets;
+    });
+}
+
 Assets assetsOf(PHAssetCollection* collection, PHFetchOptions* options) {
-    if (!collection) return {};
+    if (collection == nil) return {};
     const AssetFilter filter = simulator::filterOf(options);
-    if (NSArray* transient = [collection transientIdentifiers])
-        return withLibrary([&](PhotoLibrary& library) {
-            return library.assetsWithIdentifiers(simulator::identifiersOf(transient), filter);
-        });
+    if (NSArray* transient = [collection transientIdentifiers]) return assetsNamed(transient, filter);
     return withLibrary([&](PhotoLibrary& library) { return library.assetsIn([collection record], filter); });
+}
+
+PHFetchResult* fetch(const AssetFilter& filter, PHFetchOptions* options) {
+    return simulator::resultOf(withLibrary([&](PhotoLibrary& library) { return library.assets(filter); }),
+                               options);
 }
 
 } // namespace
 
 @implementation PHAsset
 
+@synthesize mediaType = _mediaType;
+@synthesize mediaSubtypes = _mediaSubtypes;
+@synthesize creationDate = _creationDate;
+@synthesize hidden = _hidden;
+@synthesize favorite = _favorite;
+
 + (PHFetchResult*)fetchAssetsWithOptions:(PHFetchOptions*)options {
-    return [PHFetchResult resultWithAssets:withLibrary([&](PhotoLibrary& library) {
-                              return library.assets(simulator::filterOf(options));
-                          })
-                                   options:options];
+    return fetch(simulator::filterOf(options), options);
 }
 
 + (PHFetchResult*)fetchAssetsWithMediaType:(PHAssetMediaType)mediaType options:(PHFetchOptions*)options {
     AssetFilter filter = simulator::filterOf(options);
     filter.mediaType = static_cast<simulator::MediaType>(mediaType);
-    return [PHFetchResult
-        resultWithAssets:withLibrary([&](PhotoLibrary& library) { return library.assets(filter); })
-                 options:options];
-}
-
-+ (PHFetchResult*)fetchAssetsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options {
-    const simulator::Identifiers wanted = simulator::identifiersOf(identifiers);
-    return [PHFetchResult resultWithAssets:withLibrary([&](PhotoLibrary& library) {
-                              return library.assetsWithIdentifiers(wanted, simulator::filterOf(options));
-                          })
-                                   options:options];
+    return fetch(filter, options);
 }
 
 + (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection
                                        options:(PHFetchOptions*)options {
-    return [PHFetchResult resultWithAssets:assetsOf(collection, options) options:options];
+    return simulator::resultOf(assetsOf(collection, options), options);
 }
 
 + (PHFetchResult*)fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection
@@ -59,56 +66,24 @@ Assets assetsOf(PHAssetCollection* collection, PHFetchOptions* options) {
     if ([collection assetCollectionType] != PHAssetCollectionTypeAlbum)
         std::reverse(assets.begin(), assets.end());
     if (assets.size() > keyAssetCount) assets.resize(keyAssetCount);
-    return [PHFetchResult resultWithAssets:std::move(assets) options:options];
+    return simulator::resultOf(assets, options);
 }
 
 - (instancetype)initWithAsset:(const Asset&)record {
-    NSString* identifier = [[NSString alloc] initWithUTF8String:record.identifier.c_str()];
-    self = [super initWithLocalIdentifier:identifier];
-    if (self) _record = new Asset(record);
-    [identifier release];
+    self = [super initWithLocalIdentifier:simulator::string(record.identifier)];
+    if (self == nil) return nil;
+    _mediaType = static_cast<PHAssetMediaType>(record.mediaType);
+    _mediaSubtypes = static_cast<NSUInteger>(record.mediaSubtypes);
+    if (record.created)
+        _creationDate = [[NSDate alloc] initWithTimeIntervalSinceReferenceDate:*record.created];
+    _hidden = record.hidden ? YES : NO;
+    _favorite = record.favorite ? YES : NO;
     return self;
 }
 
 - (void)dealloc {
-    delete _record;
+    [_creationDate release];
     [super dealloc];
-}
-
-- (const Asset&)record {
-    return *_record;
-}
-
-- (PHAssetMediaType)mediaType {
-    return static_cast<PHAssetMediaType>(_record->mediaType);
-}
-
-- (NSUInteger)mediaSubtypes {
-    return static_cast<NSUInteger>(_record->mediaSubtypes);
-}
-
-- (NSUInteger)pixelWidth {
-    return static_cast<NSUInteger>(_record->width);
-}
-
-- (NSUInteger)pixelHeight {
-    return static_cast<NSUInteger>(_record->height);
-}
-
-- (NSDate*)creationDate {
-    return _record->created ? [NSDate dateWithTimeIntervalSinceReferenceDate:*_record->created] : nil;
-}
-
-- (NSTimeInterval)duration {
-    return _record->duration;
-}
-
-- (BOOL)isHidden {
-    return _record->hidden ? YES : NO;
-}
-
-- (BOOL)isFavorite {
-    return _record->favorite ? YES : NO;
 }
 
 @end

@@ -1,94 +1,53 @@
-#import "Photos/PHChangeRequest+Making.h"
+#import "Photos/Photos+Making.h"
 
 #import "UIKit/UIKit.h"
 
-#include <functional>
-
 using simulator::Asset;
 using simulator::Change;
+using simulator::identifiersOf;
 
 @implementation PHAssetChangeRequest
 
-- (instancetype)initWithAssetIdentifier:(NSString*)identifier {
-    self = [super initInsideChangeBlock];
-    if (self) _assetIdentifier = [identifier copy];
-    return self;
-}
-
-+ (instancetype)creationRequestForAsset:(Asset)asset picture:(std::string)png {
++ (instancetype)creationRequestForAsset:(Asset)asset picture:(std::optional<std::string>)png {
     asset.created = [NSDate timeIntervalSinceReferenceDate];
-    NSString* identifier =
-        simulator::stringOf([self currentChange].addAsset(std::move(asset), std::move(png)));
-    PHAssetChangeRequest* request = [[[self alloc] initWithAssetIdentifier:identifier] autorelease];
-    request->_placeholder = [[PHObjectPlaceholder alloc] initWithLocalIdentifier:identifier];
-    return request;
+    return [self requestForIdentifier:simulator::string(
+                                          [self currentChange].addAsset(std::move(asset), std::move(png)))];
 }
 
 + (instancetype)creationRequestForAssetFromImage:(UIImage*)image {
     NSData* png = UIImagePNGRepresentation(image);
-    if (!png)
-        @throw [NSException exceptionWithName:NSInvalidArgumentException
-                                       reason:@"no image to store"
-                                     userInfo:nil];
-    Asset asset;
-    asset.width = static_cast<std::int64_t>(image.size.width * image.scale);
-    asset.height = static_cast<std::int64_t>(image.size.height * image.scale);
-    std::string bytes(static_cast<const char*>([png bytes]), [png length]);
-    return [self creationRequestForAsset:std::move(asset) picture:std::move(bytes)];
+    if (png == nil) simulator::raise(NSInvalidArgumentException, @"no image to store");
+    return
+        [self creationRequestForAsset:{.width = static_cast<std::int64_t>(image.size.width * image.scale),
+                                       .height = static_cast<std::int64_t>(image.size.height * image.scale)}
+                              picture:std::string(static_cast<const char*>([png bytes]), [png length])];
 }
 
 + (instancetype)creationRequestForAssetFromVideoAtFileURL:(NSURL*)file {
-    [self currentChange];
-    if (!file) return nil;
-    Asset asset;
-    asset.mediaType = simulator::MediaType::video;
-    asset.width = 1920;
-    asset.height = 1080;
-    return [self creationRequestForAsset:std::move(asset) picture:{}];
+    if (file == nil) return nil;
+    return [self
+        creationRequestForAsset:{.mediaType = simulator::MediaType::video, .width = 1920, .height = 1080}
+                        picture:std::nullopt];
 }
 
 + (instancetype)changeRequestForAsset:(PHAsset*)asset {
-    [self currentChange];
-    if (!asset) return nil;
-    return [[[self alloc] initWithAssetIdentifier:[asset localIdentifier]] autorelease];
+    return [self requestForIdentifier:[asset localIdentifier]];
 }
 
 + (void)deleteAssets:(id<NSFastEnumeration>)assets {
     Change& change = [self currentChange];
-    for (std::string& identifier : simulator::identifiersOfObjects(assets))
+    for (std::string& identifier : identifiersOf(assets))
         change.add(Change::DeleteAsset{std::move(identifier)});
 }
 
 + (void)undeleteAssets:(id<NSFastEnumeration>)assets {
     Change& change = [self currentChange];
-    for (std::string& identifier : simulator::identifiersOfObjects(assets))
+    for (std::string& identifier : identifiersOf(assets))
         change.add(Change::EditAsset{.asset = std::move(identifier), .trashed = false});
 }
 
-- (void)dealloc {
-    [_assetIdentifier release];
-    [_placeholder release];
-    [super dealloc];
-}
-
-- (PHObjectPlaceholder*)placeholderForCreatedAsset {
-    [self change];
-    return _placeholder;
-}
-
 - (void)setHidden:(BOOL)hidden {
-    [self change].add(
-        Change::EditAsset{.asset = simulator::textOf(_assetIdentifier), .hidden = hidden == YES});
-}
-
-- (void)setFavorite:(BOOL)favorite {
-    [self change].add(
-        Change::EditAsset{.asset = simulator::textOf(_assetIdentifier), .favorite = favorite == YES});
-}
-
-- (void)setCreationDate:(NSDate*)date {
-    [self change].add(Change::EditAsset{.asset = simulator::textOf(_assetIdentifier),
-                                        .created = [date timeIntervalSinceReferenceDate]});
+    [self change].add(Change::EditAsset{.asset = [self identifier], .hidden = hidden == YES});
 }
 
 @end

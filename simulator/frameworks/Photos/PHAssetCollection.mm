@@ -2,72 +2,52 @@
 
 using simulator::Collection;
 using simulator::CollectionKind;
+using simulator::Collections;
 using simulator::PhotoLibrary;
 using simulator::withLibrary;
-
-namespace {
-
-NSDate* dateOf(const std::optional<double>& seconds) {
-    return seconds ? [NSDate dateWithTimeIntervalSinceReferenceDate:*seconds] : nil;
-}
-
-bool isAssetCollectionKind(NSInteger type) {
-    return type >= PHAssetCollectionTypeAlbum && type <= PHAssetCollectionTypeMoment;
-}
-
-} // namespace
 
 @implementation PHAssetCollection
 
 + (PHFetchResult*)fetchAssetCollectionsWithType:(PHAssetCollectionType)type
                                         subtype:(PHAssetCollectionSubtype)subtype
                                         options:(PHFetchOptions*)options {
-    if (!isAssetCollectionKind(type)) return [PHFetchResult resultWithCollections:{} options:options];
-    return [PHFetchResult resultWithCollections:withLibrary([&](PhotoLibrary& library) {
-                              return library.collections(static_cast<CollectionKind>(type), subtype);
-                          })
-                                        options:options];
+    Collections found;
+    if (type >= PHAssetCollectionTypeAlbum && type <= PHAssetCollectionTypeMoment)
+        found = withLibrary([&](PhotoLibrary& library) {
+            return library.collections(static_cast<CollectionKind>(type), subtype);
+        });
+    return simulator::resultOf(found, options);
 }
 
 + (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers
                                                     options:(PHFetchOptions*)options {
-    const simulator::Identifiers wanted = simulator::identifiersOf(identifiers);
-    simulator::Collections found =
+    simulator::Identifiers wanted;
+    for (NSString* identifier in identifiers)
+        wanted.push_back(simulator::text(identifier));
+    Collections found =
         withLibrary([&](PhotoLibrary& library) { return library.collectionsWithIdentifiers(wanted); });
     std::erase_if(found,
                   [](const Collection& collection) { return collection.kind == CollectionKind::folder; });
-    return [PHFetchResult resultWithCollections:found options:options];
+    return simulator::resultOf(found, options);
 }
 
 + (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
                                               withType:(PHAssetCollectionType)type
                                                options:(PHFetchOptions*)options {
-    const std::string identifier = simulator::textOf([asset localIdentifier]);
-    return [PHFetchResult
-        resultWithCollections:withLibrary([&](PhotoLibrary& library) {
-            return library.collectionsContaining(identifier, static_cast<CollectionKind>(type));
-        })
-                      options:options];
-}
-
-+ (PHFetchResult*)fetchMomentsWithOptions:(PHFetchOptions*)options {
-    return [self fetchAssetCollectionsWithType:PHAssetCollectionTypeMoment
-                                       subtype:PHAssetCollectionSubtypeAny
-                                       options:options];
+    const std::string identifier = simulator::text([asset localIdentifier]);
+    Collections found;
+    if (type == PHAssetCollectionTypeAlbum)
+        found = withLibrary([&](PhotoLibrary& library) { return library.albumsContaining(identifier); });
+    return simulator::resultOf(found, options);
 }
 
 + (PHAssetCollection*)transientAssetCollectionWithAssets:(NSArray*)assets title:(NSString*)title {
-    Collection record;
-    record.identifier = simulator::newAlbumIdentifier();
-    if (title) record.title = simulator::textOf(title);
-    PHAssetCollection* collection = [[[self alloc] initWithCollection:record] autorelease];
-    collection->_transientIdentifiers = [(assets ? [assets valueForKey:@"localIdentifier"] : @[]) copy];
+    PHAssetCollection* collection = [[[self alloc]
+        initWithCollection:{.identifier = simulator::newIdentifier(), .title = simulator::titleOf(title)}]
+        autorelease];
+    collection->_transientIdentifiers =
+        assets != nil ? [[assets valueForKey:@"localIdentifier"] copy] : [[NSArray alloc] init];
     return collection;
-}
-
-+ (PHAssetCollection*)transientAssetCollectionWithAssetFetchResult:(PHFetchResult*)result
-                                                             title:(NSString*)title {
-    return [self transientAssetCollectionWithAssets:[result fetchedObjects] title:title];
 }
 
 - (void)dealloc {
@@ -91,26 +71,13 @@ bool isAssetCollectionKind(NSInteger type) {
     return static_cast<PHAssetCollectionSubtype>(_record->subtype);
 }
 
-- (NSUInteger)estimatedAssetCount {
-    if (_transientIdentifiers) return [_transientIdentifiers count];
-    if (_record->kind != CollectionKind::album) return NSNotFound;
-    return withLibrary([&](PhotoLibrary& library) { return library.countOfAssetsIn(*_record); });
-}
-
-- (NSDate*)startDate {
-    return dateOf(_record->started);
-}
-
-- (NSDate*)endDate {
-    return dateOf(_record->ended);
-}
-
 - (BOOL)isTrashBin {
-    return _record->isTrashBin() ? YES : NO;
+    return _record->subtype == simulator::collectionSubtype::trashBin ? YES : NO;
 }
 
 - (BOOL)canPerformEditOperation:(PHCollectionEditOperation)operation {
-    return _transientIdentifiers ? NO : [super canPerformEditOperation:operation];
+    (void)operation;
+    return _transientIdentifiers == nil && _record->subtype == PHAssetCollectionSubtypeAlbumRegular;
 }
 
 @end

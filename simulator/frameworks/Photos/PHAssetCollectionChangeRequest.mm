@@ -1,30 +1,20 @@
-#import "Photos/PHChangeRequest+Making.h"
+#import "Photos/Photos+Making.h"
 
 using simulator::Change;
-using simulator::Identifiers;
+using simulator::identifiersOf;
 
 @implementation PHAssetCollectionChangeRequest
 
-- (instancetype)initWithCollectionIdentifier:(NSString*)identifier {
-    self = [super initInsideChangeBlock];
-    if (self) _collectionIdentifier = [identifier copy];
-    return self;
-}
-
 + (instancetype)creationRequestForAssetCollectionWithTitle:(NSString*)title {
-    std::optional<std::string> text;
-    if (title) text = simulator::textOf(title);
-    NSString* identifier = simulator::stringOf([self currentChange].addAlbum(std::move(text)));
-    PHAssetCollectionChangeRequest* request =
-        [[[self alloc] initWithCollectionIdentifier:identifier] autorelease];
+    NSString* identifier = simulator::string([self currentChange].addAlbum(simulator::titleOf(title)));
+    PHAssetCollectionChangeRequest* request = [self requestForIdentifier:identifier];
     request->_placeholder = [[PHObjectPlaceholder alloc] initWithLocalIdentifier:identifier];
     return request;
 }
 
 + (instancetype)changeRequestForAssetCollection:(PHAssetCollection*)collection {
-    [self currentChange];
-    if (![collection canPerformEditOperation:PHCollectionEditOperationAddContent]) return nil;
-    return [[[self alloc] initWithCollectionIdentifier:[collection localIdentifier]] autorelease];
+    const BOOL isEditable = [collection canPerformEditOperation:PHCollectionEditOperationAddContent];
+    return [self requestForIdentifier:isEditable ? [collection localIdentifier] : nil];
 }
 
 + (instancetype)changeRequestForAssetCollection:(PHAssetCollection*)collection assets:(PHFetchResult*)assets {
@@ -35,12 +25,11 @@ using simulator::Identifiers;
 
 + (void)deleteAssetCollections:(id<NSFastEnumeration>)collections {
     Change& change = [self currentChange];
-    for (std::string& identifier : simulator::identifiersOfObjects(collections))
+    for (std::string& identifier : identifiersOf(collections))
         change.add(Change::DeleteCollection{std::move(identifier)});
 }
 
 - (void)dealloc {
-    [_collectionIdentifier release];
     [_placeholder release];
     [super dealloc];
 }
@@ -50,36 +39,12 @@ using simulator::Identifiers;
     return _placeholder;
 }
 
-- (void)setTitle:(NSString*)title {
-    Change::SetTitle request{simulator::textOf(_collectionIdentifier), std::nullopt};
-    if (title) request.title = simulator::textOf(title);
-    [self change].add(std::move(request));
-}
-
 - (void)addAssets:(id<NSFastEnumeration>)assets {
-    Change& change = [self change];
-    change.add(Change::AddMembers{simulator::textOf(_collectionIdentifier),
-                                  simulator::identifiersOfObjects(assets), std::nullopt});
-}
-
-- (void)insertAssets:(id<NSFastEnumeration>)assets atIndexes:(NSIndexSet*)indexes {
-    Change& change = [self change];
-    NSUInteger index = [indexes firstIndex];
-    for (std::string& identifier : simulator::identifiersOfObjects(assets)) {
-        if (index == NSNotFound)
-            @throw [NSException exceptionWithName:NSInvalidArgumentException
-                                           reason:@"more assets than indexes"
-                                         userInfo:nil];
-        change.add(
-            Change::AddMembers{simulator::textOf(_collectionIdentifier), {std::move(identifier)}, index});
-        index = [indexes indexGreaterThanIndex:index];
-    }
+    [self change].add(Change::AddMembers{[self identifier], identifiersOf(assets)});
 }
 
 - (void)removeAssets:(id<NSFastEnumeration>)assets {
-    Change& change = [self change];
-    change.add(Change::RemoveMembers{simulator::textOf(_collectionIdentifier),
-                                     simulator::identifiersOfObjects(assets)});
+    [self change].add(Change::RemoveMembers{[self identifier], identifiersOf(assets)});
 }
 
 @end

@@ -1,62 +1,76 @@
-#import "Photos/PHChangeRequest+Making.h"
+#import "Photos/Photos+Making.h"
 
-#include "Photos/ChangeScope.h"
+#include <atomic>
 
 using simulator::Change;
-using simulator::ChangeScope;
 
 namespace {
 
-[[noreturn]] void raiseOutsideChangeBlock() {
-    @throw [NSException exceptionWithName:NSInternalInconsistencyException
-                                   reason:@"This method can only be called from inside of -[PHPhotoLibrary "
-                                          @"performChanges:completionHandler:] or -[PHPhotoLibrary "
-                                          @"performChangesAndWait:error:]"
-                                 userInfo:nil];
-}
+/// For its lifetime, requests of the calling thread go into its change.
+class Recording {
+  public:
+    Recording() { current = this; }
+    ~Recording() { current = nullptr; }
+    Recording(const Recording&) = delete;
+    Recording& operator=(const Recording&) = delete;
+
+    static Recording& ofThisThread() {
+        if (current == nullptr)
+            simulator::raise(NSInternalInconsistencyException,
+                             @"This method can only be called from inside of -[PHPhotoLibrary "
+                             @"performChanges:completionHandler:] or -[PHPhotoLibrary "
+                             @"performChangesAndWait:error:]");
+        return *current;
+    }
+
+    // Unlike an address never used twice: a request that outlives its block must not pass for another's.
+    const std::uint64_t number = ++lastNumber;
+    Change change;
+
+  private:
+    inline static thread_local Recording* current = nullptr;
+    inline static std::atomic<std::uint64_t> lastNumber = 0;
+};
 
 } // namespace
 
-namespace simulator {
-
-Identifiers identifiersOfObjects(id<NSFastEnumeration> objects) {
-    Identifiers identifiers;
-    for (id object in objects) {
-        if (![object isKindOfClass:[PHObject class]])
-            @throw [NSException
-                exceptionWithName:NSInvalidArgumentException
-                           reason:[NSString stringWithFormat:@"%@ is no object of a photo library", object]
-                         userInfo:nil];
-        identifiers.push_back(textOf([object localIdentifier]));
+Change simulator::changeMadeBy(void (^block)(void)) {
+    Recording recording;
+    @autoreleasepool {
+        block();
     }
-    return identifiers;
+    return std::move(recording.change);
 }
-
-} // namespace simulator
 
 @implementation PHChangeRequest
 
 + (Change&)currentChange {
-    ChangeScope* scope = ChangeScope::current();
-    if (!scope) raiseOutsideChangeBlock();
-    return scope->change();
+    return Recording::ofThisThread().change;
 }
 
-- (instancetype)initInsideChangeBlock {
-    ChangeScope* scope = ChangeScope::current();
-    if (!scope) {
-        [self release];
-        raiseOutsideChangeBlock();
-    }
-    self = [super init];
-    if (self) _change = scope->number();
-    return self;
++ (instancetype)requestForIdentifier:(NSString*)identifier {
+    const std::uint64_t change = Recording::ofThisThread().number;
+    if (identifier == nil) return nil;
+    PHChangeRequest* request = [[[self alloc] init] autorelease];
+    request->_identifier = [identifier copy];
+    request->_change = change;
+    return request;
+}
+
+- (void)dealloc {
+    [_identifier release];
+    [super dealloc];
 }
 
 - (Change&)change {
-    ChangeScope* scope = ChangeScope::current();
-    if (!scope || scope->number() != _change) raiseOutsideChangeBlock();
-    return scope->change();
+    Recording& recording = Recording::ofThisThread();
+    if (recording.number != _change)
+        simulator::raise(NSInternalInconsistencyException, @"a request of another change block");
+    return recording.change;
+}
+
+- (std::string)identifier {
+    return simulator::text(_identifier);
 }
 
 @end

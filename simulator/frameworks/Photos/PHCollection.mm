@@ -13,24 +13,18 @@ using simulator::withLibrary;
 }
 
 + (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options {
-    return [PHFetchResult
-        resultWithCollections:withLibrary([&](PhotoLibrary& library) { return library.content(); })
-                      options:options];
+    return simulator::resultOf(withLibrary([](PhotoLibrary& library) { return library.content(); }), options);
 }
 
 + (PHFetchResult*)fetchCollectionsInCollectionList:(PHCollectionList*)list options:(PHFetchOptions*)options {
-    if (!list) return [PHFetchResult resultWithCollections:{} options:options];
-    return [PHFetchResult resultWithCollections:withLibrary([&](PhotoLibrary& library) {
-                              return library.content(simulator::textOf([list localIdentifier]));
-                          })
-                                        options:options];
+    const std::string folder = simulator::text([list localIdentifier]);
+    return simulator::resultOf(withLibrary([&](PhotoLibrary& library) { return library.content(folder); }),
+                               options);
 }
 
 - (instancetype)initWithCollection:(const Collection&)record {
-    NSString* identifier = [[NSString alloc] initWithUTF8String:record.identifier.c_str()];
-    self = [super initWithLocalIdentifier:identifier];
-    if (self) _record = new Collection(record);
-    [identifier release];
+    self = [super initWithLocalIdentifier:simulator::string(record.identifier)];
+    if (self != nil) _record = new Collection(record);
     return self;
 }
 
@@ -44,20 +38,7 @@ using simulator::withLibrary;
 }
 
 - (NSString*)localizedTitle {
-    return _record->title ? simulator::stringOf(*_record->title) : nil;
-}
-
-- (BOOL)canContainAssets {
-    return _record->kind == CollectionKind::folder ? NO : YES;
-}
-
-- (BOOL)canContainCollections {
-    return _record->kind == CollectionKind::folder ? YES : NO;
-}
-
-- (BOOL)canPerformEditOperation:(PHCollectionEditOperation)operation {
-    (void)operation;
-    return _record->isEditable() ? YES : NO;
+    return _record->title ? simulator::string(*_record->title) : nil;
 }
 
 @end

@@ -2,28 +2,17 @@
 
 @implementation PHObject
 
+@synthesize localIdentifier = _localIdentifier;
+
 - (instancetype)initWithLocalIdentifier:(NSString*)identifier {
     self = [super init];
-    if (self) _localIdentifier = [identifier copy];
+    if (self != nil) _localIdentifier = [identifier copy];
     return self;
 }
 
 - (void)dealloc {
     [_localIdentifier release];
     [super dealloc];
-}
-
-- (NSString*)localIdentifier {
-    return _localIdentifier;
-}
-
-- (id)objectID {
-    return _localIdentifier;
-}
-
-- (id)copyWithZone:(NSZone*)zone {
-    (void)zone;
-    return [self retain];
 }
 
 - (BOOL)isEqual:(id)other {
@@ -34,10 +23,6 @@
 
 - (NSUInteger)hash {
     return [_localIdentifier hash];
-}
-
-- (NSString*)description {
-    return [NSString stringWithFormat:@"<%@: %p> %@", [self class], self, _localIdentifier];
 }
 
 @end

@@ -2,15 +2,11 @@
 
 #import "Dispatch/Dispatch.h"
 
-#include "Photos/ChangeScope.h"
 #include "device/conditions.h"
 
-NSString* const PHPhotosErrorDomain = @"PHPhotosErrorDomain";
+#include <stdexcept>
 
 namespace {
-
-using Changes = void (^)(void);
-using Completion = void (^)(BOOL success, NSError* error);
 
 constexpr NSInteger changeFailed = -1;
 
@@ -19,29 +15,18 @@ dispatch_queue_t changeQueue() {
     return queue;
 }
 
-NSError* errorWithReason(const std::string& reason) {
-    return [NSError errorWithDomain:NSCocoaErrorDomain
-                               code:changeFailed
-                           userInfo:@{NSLocalizedDescriptionKey : simulator::stringOf(reason)}];
-}
-
-/// nil when the change was made.
-NSError* commit(const simulator::Change& change) {
-    const auto failure = simulator::failureOf([&] {
+/// On the change queue; nil when the change was made.
+NSError* perform(void (^changes)(void)) {
+    const simulator::Change change = simulator::changeMadeBy(changes);
+    const auto failure = simulator::standardExceptionOf([&] {
         if (simulator::currentConditions()->faults.refuseLibraryChanges)
             throw std::runtime_error("the photo library refuses changes");
         simulator::sharedPhotoLibrary().apply(change);
     });
-    return failure ? errorWithReason(*failure) : nil;
-}
-
-/// On the change queue.
-NSError* perform(Changes changes) {
-    simulator::ChangeScope scope;
-    @autoreleasepool {
-        changes();
-    }
-    return commit(scope.change());
+    if (!failure) return nil;
+    return [NSError errorWithDomain:NSCocoaErrorDomain
+                               code:changeFailed
+                           userInfo:@{NSLocalizedDescriptionKey : simulator::string(*failure)}];
 }
 
 } // namespace
@@ -58,7 +43,7 @@ NSError* perform(Changes changes) {
     dispatch_async(changeQueue(), ^{
         @autoreleasepool {
             NSError* error = perform(changes);
-            if (handler) handler(error ? NO : YES, error);
+            if (handler) handler(error == nil ? YES : NO, error);
         }
     });
 }
@@ -71,8 +56,8 @@ NSError* perform(Changes changes) {
         }
     });
     [failure autorelease];
-    if (error) *error = failure;
-    return failure ? NO : YES;
+    if (error != nullptr) *error = failure;
+    return failure == nil ? YES : NO;
 }
 
 @end

@@ -3,12 +3,9 @@
 
 #import "Photos/Photos.h"
 
-#include "Photos/LibraryErrors.h"
+#include "device/exceptions.h"
+#include "device/strings.h"
 #include "photolibrary/library.h"
-
-#include <functional>
-#include <mutex>
-#include <vector>
 
 @interface PHObject (Making)
 - (instancetype)initWithLocalIdentifier:(NSString*)identifier;
@@ -16,7 +13,6 @@
 
 @interface PHAsset (Making)
 - (instancetype)initWithAsset:(const simulator::Asset&)record;
-- (const simulator::Asset&)record;
 @end
 
 @interface PHCollection (Making)
@@ -32,48 +28,45 @@
 @end
 
 @interface PHFetchResult (Making)
-+ (PHFetchResult*)resultWithAssets:(simulator::Assets)assets options:(PHFetchOptions*)options;
-+ (PHFetchResult*)resultWithCollections:(const simulator::Collections&)collections
-                                options:(PHFetchOptions*)options;
++ (PHFetchResult*)resultWithObjects:(NSArray*)objects;
+@end
+
+@interface PHChangeRequest (Making)
+/// The change that the calling thread's change block fills; raises outside every change block.
++ (simulator::Change&)currentChange;
+/// A request of the current change block; raises outside. Autoreleased; nil for nil.
++ (instancetype)requestForIdentifier:(NSString*)identifier;
+/// The change that this request belongs to; raises when its change block is not running.
+- (simulator::Change&)change;
+/// Of the asset or collection that the request is about.
+- (std::string)identifier;
 @end
 
 namespace simulator {
 
-/// The objects of a fetch result, made when they are first asked for. Any thread.
-class FetchedObjects {
-  public:
-    using Make = std::function<id(std::size_t index)>; ///< returns an owned object
+/// The change that the block's requests on this thread make up.
+Change changeMadeBy(void (^block)(void));
 
-    FetchedObjects(std::size_t count, Make make) : m_count(count), m_make(std::move(make)) {}
-    ~FetchedObjects();
-    FetchedObjects(const FetchedObjects&) = delete;
-    FetchedObjects& operator=(const FetchedObjects&) = delete;
+/// The identifiers of assets, collections or placeholders; raises NSInvalidArgumentException for anything
+/// else.
+Identifiers identifiersOf(id<NSFastEnumeration> objects);
 
-    std::size_t count() const { return m_count; }
-    /// Borrowed: lives as long as these objects do.
-    id at(std::size_t index);
+std::optional<std::string> titleOf(NSString* title);
 
-  private:
-    std::size_t m_count;
-    Make m_make;
-    std::mutex m_mutex;
-    std::vector<id> m_objects;
-};
-
-/// What a fetch leaves out by its options; nil options are the default ones.
+/// What a fetch of assets leaves out and how it is sorted, by its options; nil options are the default ones.
 AssetFilter filterOf(PHFetchOptions* options);
 
-NSString* stringOf(const std::string& text);
-std::string textOf(NSString* string); ///< empty for nil
-Identifiers identifiersOf(NSArray* strings);
+/// Of the records, those that the options' predicate lets pass.
+PHFetchResult* resultOf(const Assets& assets, PHFetchOptions* options);
+PHFetchResult* resultOf(const Collections& collections, PHFetchOptions* options);
 
-[[noreturn]] void raiseLibraryError(const std::string& message);
+[[noreturn]] void raise(NSString* exception, NSString* reason);
 
 /// Runs `work` with the device's library; an error of the store becomes an NSInternalInconsistencyException.
 template <class Work> auto withLibrary(const Work& work) {
     std::optional<decltype(work(sharedPhotoLibrary()))> result;
-    if (const auto failure = failureOf([&] { result = work(sharedPhotoLibrary()); }))
-        raiseLibraryError(*failure);
+    if (const auto failure = standardExceptionOf([&] { result = work(sharedPhotoLibrary()); }))
+        raise(NSInternalInconsistencyException, string("the photo library cannot be read: " + *failure));
     return *std::move(result);
 }
 

@@ -10,7 +10,7 @@
 // - Assets in the trash appear in the trash bin only. They keep their albums, for when they are restored.
 // - Without sort descriptors assets come by creation date, oldest first; those of a user album in the
 //   album's order; albums in the user's order; smart albums by subtype.
-// - Sort descriptors accept the keys that the platform lists for the fetched class; others raise
+// - Assets can be sorted by creationDate, collections not at all; everything else raises
 //   NSInvalidArgumentException. Predicates are evaluated by key-value coding.
 // - Including hidden assets makes no difference to which collections a fetch of collections returns.
 // - The trash bin is a smart album (subtype 1000000201), and a transient collection a regular album.
@@ -20,18 +20,14 @@
 #import "CoreGraphics/CoreGraphics.h"
 
 namespace simulator {
-struct Asset;
 struct Collection;
-class FetchedObjects;
 } // namespace simulator
 
 @class UIImage;
 
 typedef NS_ENUM(NSInteger, PHAssetMediaType) {
-    PHAssetMediaTypeUnknown = 0,
     PHAssetMediaTypeImage = 1,
     PHAssetMediaTypeVideo = 2,
-    PHAssetMediaTypeAudio = 3,
 };
 
 typedef NS_ENUM(NSInteger, PHAssetCollectionType) {
@@ -42,17 +38,11 @@ typedef NS_ENUM(NSInteger, PHAssetCollectionType) {
 
 typedef NS_ENUM(NSInteger, PHAssetCollectionSubtype) {
     PHAssetCollectionSubtypeAlbumRegular = 2,
-    PHAssetCollectionSubtypeAlbumSyncedEvent = 3,
-    PHAssetCollectionSubtypeAlbumSyncedFaces = 4,
-    PHAssetCollectionSubtypeAlbumSyncedAlbum = 5,
-    PHAssetCollectionSubtypeAlbumImported = 6,
-    PHAssetCollectionSubtypeAlbumCloudShared = 101,
     PHAssetCollectionSubtypeSmartAlbumPanoramas = 201,
     PHAssetCollectionSubtypeSmartAlbumVideos = 202,
     PHAssetCollectionSubtypeSmartAlbumFavorites = 203,
     PHAssetCollectionSubtypeSmartAlbumTimelapses = 204,
     PHAssetCollectionSubtypeSmartAlbumAllHidden = 205,
-    PHAssetCollectionSubtypeSmartAlbumRecentlyAdded = 206,
     PHAssetCollectionSubtypeSmartAlbumBursts = 207,
     PHAssetCollectionSubtypeSmartAlbumSlomoVideos = 208,
     PHAssetCollectionSubtypeSmartAlbumUserLibrary = 209,
@@ -60,68 +50,47 @@ typedef NS_ENUM(NSInteger, PHAssetCollectionSubtype) {
     PHAssetCollectionSubtypeSmartAlbumScreenshots = 211,
     PHAssetCollectionSubtypeSmartAlbumDepthEffect = 212,
     PHAssetCollectionSubtypeSmartAlbumLivePhotos = 213,
-    PHAssetCollectionSubtypeSmartAlbumAnimated = 214,
     PHAssetCollectionSubtypeSmartAlbumLongExposures = 215,
     PHAssetCollectionSubtypeAny = NSIntegerMax,
 };
 
 typedef NS_ENUM(NSInteger, PHCollectionListType) { PHCollectionListTypeFolder = 2 };
-typedef NS_ENUM(NSInteger, PHCollectionListSubtype) {
-    PHCollectionListSubtypeRegularFolder = 100,
-    PHCollectionListSubtypeAny = NSIntegerMax,
-};
+typedef NS_ENUM(NSInteger, PHCollectionListSubtype) { PHCollectionListSubtypeAny = NSIntegerMax };
 
 typedef NS_ENUM(NSInteger, PHCollectionEditOperation) {
-    PHCollectionEditOperationDeleteContent = 1,
     PHCollectionEditOperationRemoveContent = 2,
     PHCollectionEditOperationAddContent = 3,
-    PHCollectionEditOperationCreateContent = 4,
-    PHCollectionEditOperationRearrangeContent = 5,
-    PHCollectionEditOperationDelete = 6,
-    PHCollectionEditOperationRename = 7,
 };
 
 typedef NS_ENUM(NSInteger, PHImageContentMode) {
     PHImageContentModeAspectFit = 0,
     PHImageContentModeAspectFill = 1,
 };
-typedef NS_ENUM(NSInteger, PHImageRequestOptionsResizeMode) {
-    PHImageRequestOptionsResizeModeNone = 0,
-    PHImageRequestOptionsResizeModeFast = 1,
-    PHImageRequestOptionsResizeModeExact = 2,
-};
+typedef NS_ENUM(NSInteger, PHImageRequestOptionsResizeMode) { PHImageRequestOptionsResizeModeExact = 2 };
 typedef int32_t PHImageRequestID;
 
 /// Asks for the picture in its own size.
 extern const CGSize PHImageManagerMaximumSize;
-extern NSString* const PHImageResultIsDegradedKey;
-extern NSString* const PHImageResultRequestIDKey;
-extern NSString* const PHImageErrorKey;
-extern NSString* const PHPhotosErrorDomain;
 
 @class PHAsset, PHAssetCollection, PHCollectionList, PHFetchResult;
 
 /// Says which objects a fetch returns, and in which order.
-@interface PHFetchOptions : NSObject <NSCopying> {
+@interface PHFetchOptions : NSObject {
     NSPredicate* _predicate;
     NSArray* _sortDescriptors;
     BOOL _includeHiddenAssets;
-    NSUInteger _fetchLimit;
 }
 @property (nonatomic, retain) NSPredicate* predicate;
 @property (nonatomic, copy) NSArray* sortDescriptors;
 /// NO unless set.
 @property (nonatomic, assign) BOOL includeHiddenAssets;
-/// At most this many objects; 0, the default, means all.
-@property (nonatomic, assign) NSUInteger fetchLimit;
 @end
 
 /// What assets and collections have in common: an identifier that is theirs for ever.
-@interface PHObject : NSObject <NSCopying> {
+@interface PHObject : NSObject {
     NSString* _localIdentifier;
 }
-- (NSString*)localIdentifier;
-- (id)objectID;
+@property (nonatomic, readonly, copy) NSString* localIdentifier;
 @end
 
 /// Stands for an object that a change creates, before the change is made.
@@ -130,11 +99,14 @@ extern NSString* const PHPhotosErrorDomain;
 
 /// A photo or a video.
 @interface PHAsset : PHObject {
-    const simulator::Asset* _record;
+    PHAssetMediaType _mediaType;
+    NSUInteger _mediaSubtypes;
+    NSDate* _creationDate;
+    BOOL _hidden;
+    BOOL _favorite;
 }
 + (PHFetchResult*)fetchAssetsWithOptions:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetsWithMediaType:(PHAssetMediaType)mediaType options:(PHFetchOptions*)options;
-+ (PHFetchResult*)fetchAssetsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection
                                        options:(PHFetchOptions*)options;
 /// At most three assets that stand for the collection: the first of an album, the newest of a smart album or
@@ -142,14 +114,11 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHFetchResult*)fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection
                                           options:(PHFetchOptions*)options;
 
-- (PHAssetMediaType)mediaType;
-- (NSUInteger)mediaSubtypes;
-- (NSUInteger)pixelWidth;
-- (NSUInteger)pixelHeight;
-- (NSDate*)creationDate;
-- (NSTimeInterval)duration;
-- (BOOL)isHidden;
-- (BOOL)isFavorite;
+@property (nonatomic, readonly) PHAssetMediaType mediaType;
+@property (nonatomic, readonly) NSUInteger mediaSubtypes;
+@property (nonatomic, readonly) NSDate* creationDate;
+@property (nonatomic, readonly, getter=isHidden) BOOL hidden;
+@property (nonatomic, readonly, getter=isFavorite) BOOL favorite;
 @end
 
 /// What folders and albums have in common.
@@ -161,9 +130,6 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHFetchResult*)fetchCollectionsInCollectionList:(PHCollectionList*)list options:(PHFetchOptions*)options;
 /// nil for an untitled collection.
 - (NSString*)localizedTitle;
-- (BOOL)canContainAssets;
-- (BOOL)canContainCollections;
-- (BOOL)canPerformEditOperation:(PHCollectionEditOperation)operation;
 @end
 
 /// An album, a smart album or a moment.
@@ -173,27 +139,21 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHFetchResult*)fetchAssetCollectionsWithType:(PHAssetCollectionType)type
                                         subtype:(PHAssetCollectionSubtype)subtype
                                         options:(PHFetchOptions*)options;
-/// In the order of the identifiers; unknown ones are left out.
+/// Albums and smart albums in the order of the identifiers; unknown ones are left out.
 + (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers
                                                     options:(PHFetchOptions*)options;
-/// Smart albums are never in the result.
+/// Only albums are ever in the result.
 + (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
                                               withType:(PHAssetCollectionType)type
                                                options:(PHFetchOptions*)options;
-+ (PHFetchResult*)fetchMomentsWithOptions:(PHFetchOptions*)options;
 /// A collection that is in no library: a list of assets, which is read afresh at every fetch, and a title.
 + (PHAssetCollection*)transientAssetCollectionWithAssets:(NSArray*)assets title:(NSString*)title;
-+ (PHAssetCollection*)transientAssetCollectionWithAssetFetchResult:(PHFetchResult*)result
-                                                             title:(NSString*)title;
 
 - (NSString*)title;
 - (PHAssetCollectionType)assetCollectionType;
 - (PHAssetCollectionSubtype)assetCollectionSubtype;
-/// The visible assets of an album at the time of the call; NSNotFound for smart albums and moments.
-- (NSUInteger)estimatedAssetCount;
-- (NSDate*)startDate;
-- (NSDate*)endDate;
 - (BOOL)isTrashBin;
+- (BOOL)canPerformEditOperation:(PHCollectionEditOperation)operation;
 @end
 
 /// A folder of albums and folders.
@@ -203,32 +163,23 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHFetchResult*)fetchCollectionListsWithType:(PHCollectionListType)type
                                        subtype:(PHCollectionListSubtype)subtype
                                        options:(PHFetchOptions*)options;
-+ (PHFetchResult*)fetchCollectionListsWithLocalIdentifiers:(NSArray*)identifiers
-                                                   options:(PHFetchOptions*)options;
 + (PHCollectionList*)transientCollectionListWithCollections:(NSArray*)collections title:(NSString*)title;
 + (PHCollectionList*)transientCollectionListWithCollectionsFetchResult:(PHFetchResult*)result
                                                                  title:(NSString*)title;
-- (PHCollectionListType)collectionListType;
-- (PHCollectionListSubtype)collectionListSubtype;
 /// The folder's content: read from the store at each call, or what a transient list was made of.
 - (NSArray*)collections;
 @end
 
-/// The ordered outcome of one fetch. Objects are made when they are first asked for.
-@interface PHFetchResult : NSObject <NSCopying, NSFastEnumeration> {
-    simulator::FetchedObjects* _objects;
+/// The ordered outcome of one fetch.
+@interface PHFetchResult : NSObject <NSFastEnumeration> {
+    NSArray* _objects;
 }
 - (NSUInteger)count;
 - (id)firstObject;
 - (id)lastObject;
 /// Raises NSRangeException for an index that is not below `count`.
 - (id)objectAtIndex:(NSUInteger)index;
-- (id)objectAtIndexedSubscript:(NSUInteger)index;
-- (NSArray*)objectsAtIndexes:(NSIndexSet*)indexes;
-- (BOOL)containsObject:(id)object;
-- (NSUInteger)indexOfObject:(id)object;
 - (void)enumerateObjectsUsingBlock:(void (^)(id object, NSUInteger index, BOOL* stop))block;
-- (NSUInteger)countOfAssetsWithMediaType:(PHAssetMediaType)mediaType;
 - (NSArray*)fetchedObjects;
 - (NSSet*)fetchedObjectIDsSet;
 @end
@@ -247,12 +198,12 @@ extern NSString* const PHPhotosErrorDomain;
 /// A request for one change. Making or using one outside its change block raises
 /// NSInternalInconsistencyException.
 @interface PHChangeRequest : NSObject {
+    NSString* _identifier;
     uint64_t _change;
 }
 @end
 
 @interface PHAssetCollectionChangeRequest : PHChangeRequest {
-    NSString* _collectionIdentifier;
     PHObjectPlaceholder* _placeholder;
 }
 + (instancetype)creationRequestForAssetCollectionWithTitle:(NSString*)title;
@@ -262,17 +213,12 @@ extern NSString* const PHPhotosErrorDomain;
 + (void)deleteAssetCollections:(id<NSFastEnumeration>)collections;
 /// nil unless the request creates a collection.
 - (PHObjectPlaceholder*)placeholderForCreatedAssetCollection;
-- (void)setTitle:(NSString*)title;
 /// Assets already in the album stay where they are.
 - (void)addAssets:(id<NSFastEnumeration>)assets;
-- (void)insertAssets:(id<NSFastEnumeration>)assets atIndexes:(NSIndexSet*)indexes;
 - (void)removeAssets:(id<NSFastEnumeration>)assets;
 @end
 
-@interface PHAssetChangeRequest : PHChangeRequest {
-    NSString* _assetIdentifier;
-    PHObjectPlaceholder* _placeholder;
-}
+@interface PHAssetChangeRequest : PHChangeRequest
 /// A new photo, taken now.
 + (instancetype)creationRequestForAssetFromImage:(UIImage*)image;
 /// A new video, taken now. The simulator keeps no footage, so the file is not read and need not be there.
@@ -282,13 +228,10 @@ extern NSString* const PHPhotosErrorDomain;
 + (void)deleteAssets:(id<NSFastEnumeration>)assets;
 /// Takes assets out of the trash.
 + (void)undeleteAssets:(id<NSFastEnumeration>)assets;
-- (PHObjectPlaceholder*)placeholderForCreatedAsset;
 - (void)setHidden:(BOOL)hidden;
-- (void)setFavorite:(BOOL)favorite;
-- (void)setCreationDate:(NSDate*)date;
 @end
 
-@interface PHImageRequestOptions : NSObject <NSCopying> {
+@interface PHImageRequestOptions : NSObject {
     PHImageRequestOptionsResizeMode _resizeMode;
     BOOL _synchronous;
 }
@@ -301,11 +244,10 @@ extern NSString* const PHPhotosErrorDomain;
 + (PHImageManager*)defaultManager;
 /// The target size is in pixels. A synchronous request calls the handler before it returns, another one later
 /// on the main thread; either calls it once. The image lives no longer than the handler's call unless
-/// retained; it is nil when there is no such asset.
+/// retained; it is nil when there is no such asset. A picture that was stored comes in its own size.
 - (PHImageRequestID)requestImageForAsset:(PHAsset*)asset
                               targetSize:(CGSize)targetSize
                              contentMode:(PHImageContentMode)contentMode
                                  options:(PHImageRequestOptions*)options
                            resultHandler:(void (^)(UIImage* image, NSDictionary* info))handler;
-- (void)cancelImageRequest:(PHImageRequestID)request;
 @end

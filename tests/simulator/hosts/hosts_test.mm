@@ -44,7 +44,9 @@ PHAsset* HostsTest::asset(std::size_t number) {
     NSString* identifier = [NSString stringWithUTF8String:m_identifiers.at(number).c_str()];
     PHFetchOptions* options = [[[PHFetchOptions alloc] init] autorelease];
     [options setIncludeHiddenAssets:YES];
-    return [[PHAsset fetchAssetsWithLocalIdentifiers:@[ identifier ] options:options] firstObject];
+    options.predicate = [NSPredicate predicateWithFormat:@"localIdentifier = %@"
+                                           argumentArray:@[ identifier ]];
+    return [[PHAsset fetchAssetsWithOptions:options] firstObject];
 }
 
 std::vector<std::size_t> HostsTest::numbersIn(const std::string& albumTitle) {
