@@ -1,4 +1,4 @@
-# Shared by the scripts here: where the project is, and how they speak.
+# Shared by the scripts here: where the project is, how they speak, build and test.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -17,7 +17,7 @@ fail() {
 }
 
 # The package names of a list file, without its comments.
-packagesOf() { grep -v '^#' "$1"; }
+packagesOf() { grep -hv '^#' "$@"; }
 
 requirePreset() {
     local known
@@ -25,16 +25,86 @@ requirePreset() {
     fail "no such preset: $1 (there are: ${presets[*]})"
 }
 
-# Configures and builds one preset, or only the targets named after it; what the tools say is shown only when something
-# goes wrong.
+# Copies lines to a file; of those that count, as Ninja's "[3/12]" and CTest's "3/12" do, every tenth part is told.
+tellProgress() {
+    awk -v name="$1" -v log_file="$2" '
+        { print >log_file }
+        match($0, /^ *\[?[0-9]+\/[0-9]+/) {
+            split(substr($0, RSTART, RLENGTH), number, "/")
+            sub(/[^0-9]*/, "", number[1])
+            tenth = int(10 * number[1] / number[2])
+            if (tenth > told) { printf "  %s: %d of %d\n", name, number[1], number[2]; fflush() }
+            told = tenth
+        }'
+}
+
+# Configures and builds one preset (in the folder BUILD when that is set), or only the targets named after it; what the
+# tools say is shown only when something goes wrong.
 buildPreset() {
-    local preset=$1 log=build/$1.log
+    local preset=$1 folder=${BUILD:-build/$1} log
+    log=$folder.log
     shift
     mkdir -p build
     say "Building $preset"
-    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"} -- -k 0; } >"$log" 2>&1; then
+    if ! cmake --preset "$preset" -B "$folder" >"$log" 2>&1 ||
+        ! ninja -C "$folder" -k 0 "$@" 2>&1 | tellProgress "building $preset" "$log"; then
         grep -E 'error|Error|FAILED' -A 6 "$log" | tail -n 60 >&2 || tail -n 60 "$log" >&2
         say "Building $preset failed; everything the tools said is in $log" >&2
         return 1
     fi
+}
+
+passed=0
+failed=0
+count() { if "$@"; then passed=$((passed + 1)); else failed=$((failed + 1)); fi; }
+
+# Reads the totals from what CTest writes for machines, so that a test that did not run counts as failed, and shows what
+# the failed ones said. A test program tells each of its cases on a line.
+addResults() {
+    local totals
+    totals=$(python3 - "$1" <<'PYTHON'
+import re
+import sys
+import xml.etree.ElementTree as tree
+
+passed = failed = 0
+for test in tree.parse(sys.argv[1]).getroot().findall("testcase"):
+    said = test.findtext("system-out") or ""
+    good, bad = (len(re.findall(rf"^\[ *{word} *\] \S+ \(", said, re.MULTILINE)) for word in ("OK", "FAILED"))
+    if test.get("status") != "run":
+        bad = max(bad, 1)
+        print(f"--- {test.get('name')}", *(said or "nothing").splitlines()[-80:], sep="\n", file=sys.stderr)
+    passed += good or (0 if bad else 1)
+    failed += bad
+print(passed, failed)
+PYTHON
+    ) || return 1
+    passed=$((passed + ${totals% *}))
+    failed=$((failed + ${totals#* }))
+}
+
+# Builds one configuration and runs its tests, those that CTest's further arguments choose.
+testConfiguration() {
+    local configuration=$1 results=$PWD/build/$1/results.xml
+    shift
+    if ! buildPreset "$configuration"; then
+        failed=$((failed + 1))
+        return
+    fi
+    rm -f "$results"
+    say "Testing $configuration"
+    ctest --test-dir "build/$configuration" --parallel "$(nproc)" --no-tests=ignore --test-output-size-passed 1048576 \
+        --test-output-size-failed 1048576 --output-junit "$results" "$@" 2>&1 |
+        tellProgress "testing $configuration" "build/$configuration/tests.log" || true
+    if ! addResults "$results"; then
+        tail -n 40 "build/$configuration/tests.log"
+        say "The tests of $configuration could not be run"
+        failed=$((failed + 1))
+    fi
+}
+
+# The last line of a command that tests.
+sumUp() {
+    say "$passed passed, $failed failed"
+    [[ $failed -eq 0 && $passed -gt 0 ]]
 }

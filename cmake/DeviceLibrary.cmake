@@ -1,0 +1,47 @@
+# add_device_library(NAME FILE file KIND -dylib;-install_name;… SOURCES … INCLUDE … FRAMEWORKS … WEAK …)
+#
+# What a device loads: on Linux a shared object whose imports the stand-ins satisfy; for the phone FILE, a library or
+# bundle for iOS 7 and later on arm64. FRAMEWORKS and WEAK name the text stubs in package/stubs that satisfy it there.
+function(add_device_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 device "" "FILE" "KIND;SOURCES;INCLUDE;FRAMEWORKS;WEAK")
+    set(options -fblocks -fno-exceptions -fno-rtti -fvisibility=hidden -fvisibility-inlines-hidden -funwind-tables)
+    if(ROLLKEEPER_PHONE)
+        add_library(${name}_objects OBJECT ${device_SOURCES})
+        set(objects ${name}_objects)
+    else()
+        add_library(${name} SHARED ${device_SOURCES})
+        set(objects ${name})
+    endif()
+    target_include_directories(${objects} PRIVATE ${device_INCLUDE})
+    target_compile_options(${objects} PRIVATE ${options})
+    target_link_libraries(${objects} PRIVATE warnings)
+    if(NOT ROLLKEEPER_PHONE)
+        return()
+    endif()
+
+    # The order of the headers is meant: our configuration of libc++, libc++, then a C library; musl declares the few
+    # plain C functions that we import just as the phone does.
+    target_compile_definitions(${objects} PRIVATE _GNU_SOURCE)
+    target_compile_options(${objects} PRIVATE -Os -fno-stack-protector
+        -nostdinc++ -nostdlibinc
+        "SHELL:-isystem ${CMAKE_SOURCE_DIR}/cmake/phone-libcxx"
+        "SHELL:-isystem /usr/lib/llvm-19/include/c++/v1"
+        "SHELL:-isystem ${ROLLKEEPER_SYSROOT}/usr/include/aarch64-linux-musl")
+
+    set(library "${CMAKE_BINARY_DIR}/${device_FILE}")
+    set(stubs ${device_FRAMEWORKS} ${device_WEAK})
+    list(TRANSFORM stubs REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/package/stubs/\\1.tbd")
+    set(stubArguments ${stubs})
+    foreach(framework IN LISTS device_WEAK)
+        list(TRANSFORM stubArguments REPLACE "(.*/${framework}.tbd)" "-weak_library;\\1")
+    endforeach()
+    # CMake knows no iOS linker outside Xcode, so we call it. Nothing will ever be encrypted: without that possibility
+    # the load commands need no page of their own.
+    add_custom_command(OUTPUT "${library}"
+        COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 ${device_KIND} -adhoc_codesign -dead_strip -x
+                -no_encryption -fatal_warnings -o "${library}" "$<TARGET_OBJECTS:${objects}>" ${stubArguments}
+        COMMAND_EXPAND_LISTS VERBATIM
+        DEPENDS "$<TARGET_OBJECTS:${objects}>" ${stubs}
+        COMMENT "Linking ${device_FILE} for the phone")
+    add_custom_target(${name} ALL DEPENDS "${library}")
+endfunction()

@@ -1,0 +1,13 @@
+# Included by CTest with `folder` and `command`, the test program of that folder: one test for each of its suites.
+execute_process(COMMAND ${command} --gtest_list_tests OUTPUT_VARIABLE listing RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+    # A program that cannot even list its tests is one failed test.
+    add_test("${folder}" ${command} --gtest_list_tests)
+endif()
+string(REGEX MATCHALL "[^\n]+" lines "${listing}")
+foreach(line IN LISTS lines)
+    if(line MATCHES "^([A-Za-z0-9_/]+)\\.")
+        add_test("${folder}/${CMAKE_MATCH_1}" ${command} "--gtest_filter=${CMAKE_MATCH_1}.*")
+        set_tests_properties("${folder}/${CMAKE_MATCH_1}" PROPERTIES TIMEOUT 900)
+    endif()
+endforeach()
