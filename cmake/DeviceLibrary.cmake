@@ -15,6 +15,7 @@ function(add_device_library name)
     target_include_directories(${objects} PRIVATE ${device_INCLUDE})
     target_compile_options(${objects} PRIVATE ${options})
     target_link_libraries(${objects} PRIVATE warnings)
+    target_precompile_headers(${objects} PRIVATE "${CMAKE_SOURCE_DIR}/src/platform/photos_ui.h")
     if(NOT ROLLKEEPER_PHONE)
         return()
     endif()
@@ -28,6 +29,8 @@ function(add_device_library name)
         "SHELL:-isystem /usr/lib/llvm-19/include/c++/v1"
         "SHELL:-isystem ${ROLLKEEPER_SYSROOT}/usr/include/aarch64-linux-musl")
 
+    # CMake counts the precompiled header as an object.
+    set(linked "$<FILTER:$<TARGET_OBJECTS:${objects}>,EXCLUDE,\\.pch$>")
     set(library "${CMAKE_BINARY_DIR}/${device_FILE}")
     set(stubs ${device_FRAMEWORKS} ${device_WEAK})
     list(TRANSFORM stubs REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/package/stubs/\\1.tbd")
@@ -39,9 +42,9 @@ function(add_device_library name)
     # the load commands need no page of their own.
     add_custom_command(OUTPUT "${library}"
         COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 ${device_KIND} -adhoc_codesign -dead_strip -x
-                -no_encryption -fatal_warnings -o "${library}" "$<TARGET_OBJECTS:${objects}>" ${stubArguments}
+                -no_encryption -fatal_warnings -o "${library}" "${linked}" ${stubArguments}
         COMMAND_EXPAND_LISTS VERBATIM
-        DEPENDS "$<TARGET_OBJECTS:${objects}>" ${stubs}
+        DEPENDS "${linked}" ${stubs}
         COMMENT "Linking ${device_FILE} for the phone")
     add_custom_target(${name} ALL DEPENDS "${library}")
 endfunction()
