@@ -116,6 +116,23 @@ TEST_F(Capture, is_looked_up_at_once_but_anew_for_an_album_that_is_created_first
     expect({"Work", true, {11}, {9, 10}});
 }
 
+void (*originalPerform)(id, SEL, id, void (^)(BOOL, NSError*));
+void performAndReportFailure(id self, SEL command, id changes, void (^completion)(BOOL, NSError*)) {
+    originalPerform(self, command, changes, ^(BOOL, NSError*) {
+        completion(NO, nil);
+    });
+}
+
+TEST_F(Capture, is_not_added_to_an_album_whose_creation_failed) {
+    openCamera("Pets");
+    deleteAlbum("Pets");
+    replaceMethod("PHPhotoLibrary", @selector(performChanges:completionHandler:), &performAndReportFailure,
+                  &originalPerform);
+    capture(camera::failCapture);
+    EXPECT_TRUE(library().albumTitled("Pets")) << "it is there all the same";
+    expect({"Pets", true, {}, {9}});
+}
+
 TEST_F(Capture, is_added_even_where_nothing_can_be_hidden) {
     setHasFramework(host::camera, "PhotosUI", false);
     openCamera("Pets");

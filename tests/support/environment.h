@@ -2,8 +2,7 @@
 
 #include <string>
 
-/// Where a test finds what it loads and starts. Every answer can be replaced by the environment variable of
-/// the same name as the build's definition, for example TEST_LIBRARY_FILE.
+/// Where a test finds what it loads and starts, as the build says.
 namespace simulator::test {
 
 /// "sanitize", "release", "tsan" or "arm64".

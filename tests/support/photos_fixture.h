@@ -96,7 +96,6 @@ class PhotosTest : public LibraryTest {
 
     // The library's photos by number, the oldest being 0.
     std::string identifier(std::size_t number);
-    bool isHidden(std::size_t number);
     void hide(const Numbers& numbers);
     void hideOnly(const Numbers& numbers); // and show all others
     Numbers hiddenNumbers();

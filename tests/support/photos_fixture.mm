@@ -201,10 +201,6 @@ std::string PhotosTest::identifier(std::size_t number) {
     return library().assets({.includeHidden = true}).at(number).identifier;
 }
 
-bool PhotosTest::isHidden(std::size_t number) {
-    return library().assets({.includeHidden = true}).at(number).hidden;
-}
-
 void PhotosTest::hide(const Numbers& numbers) {
     for (const std::size_t number : numbers)
         library().setHidden(identifier(number), true);

@@ -1,9 +1,9 @@
 // The frame around the screens: the bar's extra button and its sheets, returning all photos, the sharing
 // screen, and leaving for the background.
-#import "Hooking/Hooking.h"
 #include "hosts/applications/common/launch.h"
 #include "support/hiding_log.h"
 #include "support/photos_fixture.h"
+#include "support/replacing.h"
 
 #include "device/clock.h"
 
@@ -189,44 +189,37 @@ TEST_F(Navigation, all_photos_return_but_those_of_locked_and_switched_off_albums
 
 #pragma mark Leaving for the background
 
-int stockCalls = 0;
-bool albumWasOpen = false;
-
+// Whether an album was open, at each call.
+std::vector<bool> stockCalls;
 void stockDidEnterBackground(id, SEL, id) {
-    ++stockCalls;
-    albumWasOpen = [[[photos::library() selectedNavigationController] viewControllers] count] > 1;
+    stockCalls.push_back([[[photos::library() selectedNavigationController] viewControllers] count] > 1);
 }
 
 TEST_F(Navigation, background_closes_an_album_as_the_settings_say) {
-    IMP unused = nullptr;
-    MSHookMessageEx([PLPhotosApplication class], @selector(applicationDidEnterBackground:),
-                    reinterpret_cast<IMP>(&stockDidEnterBackground), &unused);
+    void (*unused)(id, SEL, id);
+    replaceMethod("PLPhotosApplication", @selector(applicationDidEnterBackground:), &stockDidEnterBackground,
+                  &unused);
     openAlbumList({}, {"Holidays"});
     for (unsigned row = 0; row < 16; ++row) {
         SCOPED_TRACE(row);
-        const bool enabled = row & 1, always = row & 2, ifLocked = row & 4, isLocked = row & 8;
+        const bool isLocked = row & 1, enabled = row & 2, always = row & 4, ifLocked = row & 8;
         reloadPreferences({{"enabled", enabled},
                            {"passOption", 2},
                            {"returnToMainDefault", always},
                            {"returnToMainLocked", ifLocked}});
         const bool returns = always || (ifLocked && isLocked);
         photos::openAlbum(isLocked ? "Holidays" : "Family");
-        // A locked album counts until the next is chosen, here for two that are opened otherwise.
-        for (const bool isAskedDirectly : {false, false, true}) {
-            if (isAskedDirectly) {
-                [photos::application() returnToMainView];
-            } else {
-                stockCalls = 0;
-                [photos::application() enterBackground];
-                [photos::application() enterForeground];
-                EXPECT_EQ(stockCalls, 1);
-                EXPECT_EQ(albumWasOpen, hasOpenedAlbum()) << "the stock method comes last";
-            }
-            EXPECT_EQ(!hasOpenedAlbum(), returns && (enabled || isAskedDirectly));
-            goBack();
-            UIViewController* album = [[[PUPhotosAlbumViewController alloc] init] autorelease];
-            [navigation() pushViewController:album animated:NO];
-        }
+        [photos::application() enterBackground];
+        [photos::application() enterForeground];
+        const bool staysOpen = !(returns && enabled);
+        EXPECT_EQ(std::exchange(stockCalls, {}), std::vector{staysOpen}) << "the stock method comes last";
+        goBack();
+        // A locked album counts until the next is chosen, here for one that is opened otherwise.
+        [navigation() pushViewController:[[[PUPhotosAlbumViewController alloc] init] autorelease]
+                                animated:NO];
+        [photos::application() returnToMainView];
+        EXPECT_EQ(hasOpenedAlbum(), !returns);
+        goBack();
     }
     Ivar library = class_getInstanceVariable([PhotosApplication class], "_tabbedLibraryViewController");
     reloadPreferences({{"returnToMainDefault", true}});
@@ -260,7 +253,8 @@ TEST_P(NavigationOnReleases, does_what_the_release_allows) {
         EXPECT_TRUE([album initiallyScrolledToBottom]);
         settle();
         EXPECT_EQ(numbersIn("Holidays").size(), 2U);
-        EXPECT_EQ(isHidden(0), release < Release::ios9_3) << "earlier there is nothing to show it with";
+        // Earlier there is nothing to show it with.
+        EXPECT_EQ(hiddenNumbers(), release < Release::ios9_3 ? Numbers{0} : Numbers{});
     }
     [photos::application() enterBackground];
     EXPECT_TRUE([navigation() topViewController] == root);

@@ -100,20 +100,6 @@ TEST_F(AlbumListGestures, a_device_without_haptic_engine_locks_all_the_same) {
     EXPECT_EQ(takeSavedLists().size(), 1U);
 }
 
-TEST_F(AlbumListGestures, overlay_comes_and_goes_with_a_users_presses) {
-    useManualClock();
-    openAlbumList();
-    startSpringBoard();
-    for (const bool locks : {true, false}) {
-        longPress(photos::albumCell(photos::albumList(), "Holidays"), 1.0);
-        settle();
-        waitFor([&] { return lockedAlbums() == (locks ? Texts{"Holidays"} : Texts()); });
-        clock().advance(1);
-        layOutScreen();
-        EXPECT_EQ(overlay("Holidays") != nil, locks);
-    }
-}
-
 TEST_F(AlbumListGestures, list_is_reloaded_at_once_and_half_a_second_later) {
     useManualClock();
     openList({"Family"});
