@@ -114,7 +114,7 @@ void LibraryTest::waitFor(const std::function<bool()>& condition) {
         ASSERT_TRUE(m_host->runUntil(condition));
         return;
     }
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     while (!condition() && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
     ASSERT_TRUE(condition());
