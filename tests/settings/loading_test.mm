@@ -1,6 +1,7 @@
 // What the preference file says, and what holds when it says nothing or nonsense.
 #import "settings/settings_fixture.h"
 
+#include "hosts/applications/plain/plain_app.h"
 #include "support/table.h"
 
 #include <set>
@@ -163,6 +164,16 @@ TEST_F(PreferenceFile, may_be_binary_and_hold_values_of_every_kind) {
         EXPECT_TRUE(listsAlbum("Family"));
         EXPECT_EQ(describeLockedAlbum(), "14 14 blur opens after Touch ID");
     }
+}
+
+// Its five companions of other applications are at their defaults in most tests of these.
+TEST_F(SettingsTest, a_saved_picture_stays_visible_unless_told_otherwise) {
+    start(host::plain);
+    plain::saveImage();
+    tapAlertAction("Pets");
+    settle();
+    EXPECT_EQ(numbersIn("Pets"), (std::vector<std::size_t>{10}));
+    EXPECT_FALSE(isHidden(10));
 }
 
 // Album visibility.
