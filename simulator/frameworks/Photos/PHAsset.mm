@@ -40,7 +40,6 @@ PHFetchResult* fetch(const AssetFilter& filter, PHFetchOptions* options) {
 
 @synthesize mediaType = _mediaType;
 @synthesize mediaSubtypes = _mediaSubtypes;
-@synthesize creationDate = _creationDate;
 @synthesize hidden = _hidden;
 @synthesize favorite = _favorite;
 
@@ -74,16 +73,9 @@ PHFetchResult* fetch(const AssetFilter& filter, PHFetchOptions* options) {
     if (self == nil) return nil;
     _mediaType = static_cast<PHAssetMediaType>(record.mediaType);
     _mediaSubtypes = static_cast<NSUInteger>(record.mediaSubtypes);
-    if (record.created)
-        _creationDate = [[NSDate alloc] initWithTimeIntervalSinceReferenceDate:*record.created];
     _hidden = record.hidden ? YES : NO;
     _favorite = record.favorite ? YES : NO;
     return self;
-}
-
-- (void)dealloc {
-    [_creationDate release];
-    [super dealloc];
 }
 
 @end

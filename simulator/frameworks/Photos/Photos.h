@@ -101,7 +101,6 @@ extern const CGSize PHImageManagerMaximumSize;
 @interface PHAsset : PHObject {
     PHAssetMediaType _mediaType;
     NSUInteger _mediaSubtypes;
-    NSDate* _creationDate;
     BOOL _hidden;
     BOOL _favorite;
 }
@@ -116,7 +115,6 @@ extern const CGSize PHImageManagerMaximumSize;
 
 @property (nonatomic, readonly) PHAssetMediaType mediaType;
 @property (nonatomic, readonly) NSUInteger mediaSubtypes;
-@property (nonatomic, readonly) NSDate* creationDate;
 @property (nonatomic, readonly, getter=isHidden) BOOL hidden;
 @property (nonatomic, readonly, getter=isFavorite) BOOL favorite;
 @end
