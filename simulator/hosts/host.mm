@@ -13,7 +13,6 @@
 #import <Foundation/Foundation.h>
 
 #include <stdexcept>
-#include <variant>
 
 namespace simulator {
 namespace {
@@ -28,9 +27,8 @@ void applyConditions() {
 
 void load(const std::filesystem::path& library) {
     beginLoggingAddedMethods();
-    const LoadResult result = loadLibrary(library.string());
+    loadLibrary(library.string());
     endLoggingAddedMethods();
-    if (const auto* error = std::get_if<LoadError>(&result)) throw std::runtime_error(error->message);
 }
 
 // Before the working directory changes.

@@ -1,99 +1,57 @@
 #include "loader/loader.h"
 
-#include "loader/mach_o_image.h"
+#include "loader/mach_o.h"
 
 #include <dlfcn.h>
 
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <list>
 #include <mutex>
-#include <span>
 
 namespace simulator {
 namespace {
 
-#ifdef __aarch64__
-constexpr bool processIsArm64 = true;
-#else
-constexpr bool processIsArm64 = false;
-#endif
-
-constexpr char elfMagic[] = {0x7f, 'E', 'L', 'F'};
-
-// Lists, because callers hold pointers to their elements.
-struct Registry {
-    std::mutex mutex;
-    std::list<LoadedLibrary> libraries;
-    std::list<macho::Image> images;
-};
-
-Registry& registry() {
-    // Never destroyed: hooks point into the images until the very end of the process.
-    static Registry& instance = *new Registry;
-    return instance;
+// Never destroyed, since hooks point into the libraries until the very end of the process; a list, because
+// callers hold pointers to its elements.
+std::mutex registryMutex;
+std::list<LoadedLibrary>& registry() {
+    static auto& libraries = *new std::list<LoadedLibrary>;
+    return libraries;
 }
 
-LoadedLibrary& remember(LoadedLibrary library) {
-    const std::scoped_lock lock(registry().mutex);
-    return registry().libraries.emplace_back(std::move(library));
-}
-
-const macho::Image& mapImage(std::span<const std::byte> bytes) {
-    const std::scoped_lock lock(registry().mutex);
-    return registry().images.emplace_back(bytes);
-}
-
-LoadResult loadElf(const std::string& path) {
-    if (dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL) == nullptr) return LoadError{dlerror()};
-    return remember({path, LoadedLibrary::Format::elf, {}});
-}
-
-LoadResult loadMachO(const std::string& path, std::span<const std::byte> bytes) {
+void loadMachO(const std::string& path, std::span<const std::byte> bytes) {
     try {
-        if (!processIsArm64) {
-            macho::parse(bytes);
-            return LoadError{path + " is for arm64, this process is not"};
+        const macho::Image image = macho::map(bytes);
+        {
+            const std::scoped_lock lock(registryMutex);
+            registry().push_back({path, image.start, image.size});
         }
-        const macho::Image& image = mapImage(bytes);
-        LoadedLibrary& library = remember({path, LoadedLibrary::Format::machO, image.segments()});
-        library.initialisersRun = image.runInitialisers();
-        return library;
+        for (const macho::Initialiser initialise : image.initialisers)
+            initialise(0, nullptr, nullptr, nullptr, nullptr);
     } catch (const macho::FormatError& error) {
-        return LoadError{path + " " + error.what()};
+        throw LoadError(path + " " + error.what());
     }
 }
 
 } // namespace
 
-bool LoadedLibrary::contains(const void* address) const {
-    const auto wanted = reinterpret_cast<std::uintptr_t>(address);
-    for (const LoadedSegment& segment : segments)
-        if (wanted - segment.start < segment.size) return true;
-    return false;
-}
-
-LoadResult loadLibrary(const std::string& path) {
-    std::error_code problem;
-    if (!std::filesystem::is_regular_file(path, problem))
-        return LoadError{path + (problem ? " cannot be read: " + problem.message() : " is not a file")};
+void loadLibrary(const std::string& path) {
     std::ifstream stream(path, std::ios::binary);
-    if (!stream) return LoadError{path + " cannot be read: " + std::strerror(errno)};
+    if (!stream || !std::filesystem::is_regular_file(path)) throw LoadError(path + " cannot be read");
     const std::vector<char> content{std::istreambuf_iterator<char>(stream), {}};
     const auto bytes = std::as_bytes(std::span(content));
-    if (bytes.size() >= sizeof elfMagic && std::memcmp(bytes.data(), elfMagic, sizeof elfMagic) == 0)
-        return loadElf(path);
-    if (macho::isMachO(bytes)) return loadMachO(path, bytes);
-    return LoadError{path + " is neither an ELF nor a Mach-O library"};
+    if (macho::isMachO(bytes))
+        loadMachO(path, bytes);
+    else if (dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL) == nullptr)
+        throw LoadError(dlerror());
 }
 
 const LoadedLibrary* loadedLibraryContaining(const void* address) {
-    const std::scoped_lock lock(registry().mutex);
-    for (const LoadedLibrary& library : registry().libraries)
-        if (library.contains(address)) return &library;
+    const std::scoped_lock lock(registryMutex);
+    for (const LoadedLibrary& library : registry())
+        if (reinterpret_cast<std::uintptr_t>(address) - library.start < library.size) return &library;
     return nullptr;
 }
 

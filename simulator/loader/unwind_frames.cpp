@@ -1,33 +1,26 @@
-#include "loader/unwind_frames.h"
-
-#include "loader/mach_o_file.h"
+#include "loader/mach_o.h"
 
 #include <cstring>
 
 namespace simulator::macho {
 namespace {
 
-// The layout of the section: a header, an index of pages, and pages of two kinds that hold functions in
-// order.
+// The layout of the section: a header, an index of pages, and pages that hold functions in order. (Libraries
+// of many megabytes have a second kind of page.)
 struct InfoHeader {
-    std::uint32_t version;
-    std::uint32_t commonEncodingsOffset, commonEncodingsCount;
-    std::uint32_t personalitiesOffset, personalitiesCount;
-    std::uint32_t indexOffset, indexCount;
+    std::uint32_t version, commonEncodingsOffset, commonEncodingsCount;
+    std::uint32_t personalitiesOffset, personalitiesCount, indexOffset, indexCount;
 };
 struct IndexEntry {
     std::uint32_t functionOffset, pageOffset, languageDataOffset;
-};
-struct RegularPage {
-    std::uint32_t kind;
-    std::uint16_t entriesOffset, entriesCount;
 };
 struct CompressedPage {
     std::uint32_t kind;
     std::uint16_t entriesOffset, entriesCount, encodingsOffset, encodingsCount;
 };
-constexpr std::uint32_t regularPage = 2;
-constexpr std::uint32_t compressedPage = 3;
+struct Function {
+    std::uint32_t offset, encoding;
+};
 
 // What an encoding says for arm64.
 constexpr std::uint32_t modeMask = 0x0f000000;
@@ -55,125 +48,52 @@ constexpr std::uint8_t registerAtExtended = 0x05;
 constexpr std::uint8_t doNothing = 0x00;
 constexpr std::uint8_t minusEight = 0x78; // as a signed LEB128 number
 
-struct Function {
-    std::uint32_t offset;
-    std::uint32_t encoding;
-};
+template <class Value> Value element(const char* array, std::size_t index = 0) {
+    Value result;
+    std::memcpy(&result, array + index * sizeof result, sizeof result);
+    return result;
+}
 
-/// Reads the section, refusing what lies outside it.
-class UnwindInfo {
-  public:
-    explicit UnwindInfo(std::span<const std::byte> bytes) : bytes_(bytes), header_(at<InfoHeader>(0)) {}
-
-    /// All functions in order, and behind them one without an encoding that ends the last.
-    std::vector<Function> functions() const {
-        std::vector<Function> result;
-        for (std::uint32_t i = 0; i < header_.indexCount; ++i) {
-            const auto entry = element<IndexEntry>(header_.indexOffset, i);
-            if (entry.pageOffset == 0) {
-                result.push_back({entry.functionOffset, 0});
-                continue;
-            }
-            const auto kind = at<std::uint32_t>(entry.pageOffset);
-            if (kind == regularPage)
-                readRegular(entry, result);
-            else if (kind == compressedPage)
-                readCompressed(entry, result);
-            else
-                throw FormatError("has a page of unwind information of an unknown kind");
-        }
-        return result;
-    }
-
-  private:
-    template <class Value> Value at(std::uint64_t offset) const {
-        Value result;
-        if (offset > bytes_.size() || sizeof result > bytes_.size() - offset)
-            throw FormatError("has truncated unwind information");
-        std::memcpy(&result, bytes_.data() + offset, sizeof result);
-        return result;
-    }
-
-    template <class Value> Value element(std::uint64_t offset, std::uint64_t index) const {
-        return at<Value>(offset + index * sizeof(Value));
-    }
-
-    void readRegular(const IndexEntry& entry, std::vector<Function>& result) const {
-        const auto page = at<RegularPage>(entry.pageOffset);
-        for (std::uint32_t i = 0; i < page.entriesCount; ++i)
-            result.push_back(element<Function>(entry.pageOffset + page.entriesOffset, i));
-    }
-
-    void readCompressed(const IndexEntry& entry, std::vector<Function>& result) const {
-        const auto page = at<CompressedPage>(entry.pageOffset);
-        for (std::uint32_t i = 0; i < page.entriesCount; ++i) {
-            const auto packed = element<std::uint32_t>(entry.pageOffset + page.entriesOffset, i);
+// All functions in order, and behind them one without an encoding that ends the last.
+std::vector<Function> functionsOf(const char* info) {
+    const auto header = element<InfoHeader>(info);
+    const std::uint32_t common = header.commonEncodingsCount;
+    std::vector<Function> result;
+    for (std::uint32_t i = 0; i < header.indexCount; ++i) {
+        const auto entry = element<IndexEntry>(info + header.indexOffset, i);
+        const char* start = info + entry.pageOffset;
+        const auto page = entry.pageOffset != 0 ? element<CompressedPage>(start) : CompressedPage{};
+        for (std::uint32_t j = 0; j < page.entriesCount; ++j) {
+            const auto packed = element<std::uint32_t>(start + page.entriesOffset, j);
             const std::uint32_t which = packed >> 24;
-            const bool isCommon = which < header_.commonEncodingsCount;
-            const auto encoding = isCommon ? element<std::uint32_t>(header_.commonEncodingsOffset, which)
-                                           : element<std::uint32_t>(entry.pageOffset + page.encodingsOffset,
-                                                                    which - header_.commonEncodingsCount);
+            const auto encoding = which < common
+                                      ? element<std::uint32_t>(info + header.commonEncodingsOffset, which)
+                                      : element<std::uint32_t>(start + page.encodingsOffset, which - common);
             result.push_back({entry.functionOffset + (packed & 0x00ffffff), encoding});
         }
+        if (entry.pageOffset == 0) result.push_back({entry.functionOffset, 0});
     }
+    return result;
+}
 
-    std::span<const std::byte> bytes_;
-    InfoHeader header_;
-};
+using Bytes = std::vector<std::uint8_t>;
 
-/// Writes call frame information. Every record is padded to eight bytes.
-class FrameWriter {
-  public:
-    FrameWriter() {
-        const std::size_t start = beginRecord();
-        number<std::uint32_t>(0); // marks the record that the others refer to
-        bytes({1, 0, 1, minusEight, linkRegister, defineFrameAddress, stackPointer, 0});
-        endRecord(start);
-    }
+template <class Value> void append(Bytes& bytes, Value value) {
+    const auto* start = reinterpret_cast<const std::uint8_t*>(&value);
+    bytes.insert(bytes.end(), start, start + sizeof value);
+}
 
-    void function(std::uint64_t address, std::uint64_t size, const std::vector<std::uint8_t>& instructions) {
-        const std::size_t start = beginRecord();
-        number(static_cast<std::uint32_t>(bytes_.size()));
-        number(address);
-        number(size);
-        bytes(instructions);
-        endRecord(start);
-    }
+// A record of call frame information: its size, padded to eight bytes, and its content.
+void appendRecord(Bytes& records, Bytes content) {
+    while ((content.size() + sizeof(std::uint32_t)) % 8 != 0)
+        content.push_back(doNothing);
+    append(records, static_cast<std::uint32_t>(content.size()));
+    records.insert(records.end(), content.begin(), content.end());
+}
 
-    std::vector<std::byte> finish() {
-        number<std::uint32_t>(0);
-        return std::move(bytes_);
-    }
-
-  private:
-    std::size_t beginRecord() {
-        number<std::uint32_t>(0);
-        return bytes_.size();
-    }
-
-    void endRecord(std::size_t start) {
-        while ((bytes_.size() - start + sizeof(std::uint32_t)) % 8 != 0)
-            bytes({doNothing});
-        const auto size = static_cast<std::uint32_t>(bytes_.size() - start);
-        std::memcpy(bytes_.data() + start - sizeof size, &size, sizeof size);
-    }
-
-    template <class Value> void number(Value value) {
-        const auto* start = reinterpret_cast<const std::byte*>(&value);
-        bytes_.insert(bytes_.end(), start, start + sizeof value);
-    }
-
-    void bytes(const std::vector<std::uint8_t>& values) {
-        for (const std::uint8_t value : values)
-            bytes_.push_back(std::byte{value});
-    }
-
-    std::vector<std::byte> bytes_;
-};
-
-std::vector<std::uint8_t> instructionsWithFrame(std::uint32_t encoding) {
+Bytes instructionsWithFrame(std::uint32_t encoding) {
     // Counted in words downwards from the frame address, which lies two above where the frame pointer points.
-    std::vector<std::uint8_t> result{
+    Bytes result{
         defineFrameAddress, framePointer, 16, registerAt | framePointer, 2, registerAt | linkRegister, 1};
     std::uint8_t place = 3;
     for (const SavedPair& pair : savedPairs) {
@@ -184,7 +104,7 @@ std::vector<std::uint8_t> instructionsWithFrame(std::uint32_t encoding) {
     return result;
 }
 
-std::vector<std::uint8_t> instructionsWithoutFrame(std::uint32_t encoding) {
+Bytes instructionsWithoutFrame(std::uint32_t encoding) {
     const std::uint32_t stackSize = (encoding >> 12 & 0xfff) * 16;
     return {defineFrameAddress, stackPointer, std::uint8_t((stackSize & 0x7f) | 0x80),
             std::uint8_t((stackSize >> 7 & 0x7f) | 0x80), std::uint8_t(stackSize >> 14)};
@@ -192,21 +112,27 @@ std::vector<std::uint8_t> instructionsWithoutFrame(std::uint32_t encoding) {
 
 } // namespace
 
-std::vector<std::byte> framesFromCompactUnwind(std::span<const std::byte> unwindInfo, std::uint64_t image) {
-    const std::vector<Function> functions = UnwindInfo(unwindInfo).functions();
-    FrameWriter writer;
+std::vector<std::uint8_t> framesFromCompactUnwind(const char* unwindInfo, std::uint64_t image) {
+    const std::vector<Function> functions = functionsOf(unwindInfo);
+    Bytes frames;
+    // The record that the others refer to begins with a zero.
+    appendRecord(frames,
+                 {0, 0, 0, 0, 1, 0, 1, minusEight, linkRegister, defineFrameAddress, stackPointer, 0});
     for (std::size_t i = 0; i + 1 < functions.size(); ++i) {
         const auto [offset, encoding] = functions[i];
-        if (functions[i + 1].offset < offset)
-            throw FormatError("has unwind information that is not in order");
-        const std::uint64_t size = functions[i + 1].offset - offset;
         const std::uint32_t mode = encoding & modeMask;
-        if (mode == modeWithFrame)
-            writer.function(image + offset, size, instructionsWithFrame(encoding));
-        else if (mode == modeWithoutFrame)
-            writer.function(image + offset, size, instructionsWithoutFrame(encoding));
+        if (mode != modeWithFrame && mode != modeWithoutFrame) continue;
+        Bytes content;
+        append(content, static_cast<std::uint32_t>(frames.size() + sizeof(std::uint32_t)));
+        append(content, image + offset);
+        append(content, std::uint64_t{functions[i + 1].offset - offset});
+        const Bytes instructions =
+            mode == modeWithFrame ? instructionsWithFrame(encoding) : instructionsWithoutFrame(encoding);
+        content.insert(content.end(), instructions.begin(), instructions.end());
+        appendRecord(frames, content);
     }
-    return writer.finish();
+    append(frames, std::uint32_t{0});
+    return frames;
 }
 
 } // namespace simulator::macho

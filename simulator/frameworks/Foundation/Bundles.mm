@@ -1,11 +1,10 @@
 // Bundles as they lie on the device: flat folders, whose executable the device's loader loads.
+#include "device/exceptions.h"
 #include "device/root.h"
 #include "frameworks/ObjectiveC/Replacement.h"
 #include "loader/loader.h"
 
 #import <Foundation/Foundation.h>
-
-#include <variant>
 
 namespace simulator {
 namespace {
@@ -31,9 +30,9 @@ NSMutableSet* loadedExecutables() {
 
 BOOL loadExecutable(NSString* path) {
     if ([loadedExecutables() containsObject:path]) return YES;
-    const LoadResult result = loadLibrary(linuxPath([path fileSystemRepresentation]));
-    if (const auto* error = std::get_if<LoadError>(&result)) {
-        NSLog(@"%s", error->message.c_str());
+    if (const auto problem =
+            standardExceptionOf([&] { loadLibrary(linuxPath([path fileSystemRepresentation])); })) {
+        NSLog(@"%s", problem->c_str());
         return NO;
     }
     [loadedExecutables() addObject:path];
