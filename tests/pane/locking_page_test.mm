@@ -94,9 +94,16 @@ TEST_F(LockingPage, sets_changes_and_removes_the_password_and_refuses_what_does_
     expectPasswordRows(false);
 }
 
-TEST_F(LockingPage, says_when_the_password_cannot_be_written_or_removed) {
+TEST_F(LockingPage,
+       says_when_the_password_cannot_be_written_or_removed_and_takes_an_unreadable_one_for_none) {
+    change([](Conditions& conditions) { conditions.faults.unreadable = {file::password}; });
     openLocking("secret");
-    change([](Conditions& conditions) { conditions.faults.diskFull = true; });
+    expectPasswordRows(false);
+    change([](Conditions& conditions) {
+        conditions.faults.unreadable.clear();
+        conditions.faults.diskFull = true;
+    });
+    openPage({"Locked Albums"});
     EXPECT_THAT(prompt("Change Password", {"secret", "new", "new"}, "Save"),
                 HasSubstr("could not be written"));
     change([](Conditions& conditions) { conditions.faults.diskFull = false; });
@@ -105,40 +112,31 @@ TEST_F(LockingPage, says_when_the_password_cannot_be_written_or_removed) {
     EXPECT_THAT(prompt("Remove Password", {""}, "Remove"), HasSubstr("could not be written"));
 }
 
-TEST_F(LockingPage, takes_an_unreadable_password_for_none_as_the_library_does) {
-    change([](Conditions& conditions) { conditions.faults.unreadable = {file::password}; });
-    openLocking("secret");
-    expectPasswordRows(false);
-}
-
 TEST_F(LockingPage, tells_how_a_locked_album_opens) {
     const struct {
         json passOption;
         BiometricOutcome biometry;
-        bool hasPassword;
         const char* expected;
     } warnings[] = {
-        {0, BiometricOutcome::success, true, "If Touch ID fails"},
-        {0, BiometricOutcome::success, false, "If Touch ID fails"},
-        {0, BiometricOutcome::notAvailable, true, "Touch ID is not set up"},
-        {0, BiometricOutcome::notAvailable, false, "Touch ID is not set up"},
-        {1, BiometricOutcome::success, true, "The password does not open a locked album"},
-        {1, BiometricOutcome::success, false, "lock button in Edit"},
-        {2, BiometricOutcome::success, true, "open without being asked"},
-        {"2", BiometricOutcome::success, false, "open without being asked"},
+        {0, BiometricOutcome::success, "If Touch ID fails"},
+        {0, BiometricOutcome::notAvailable, "Touch ID is not set up"},
+        {1, BiometricOutcome::success, "The password does not open a locked album"},
+        {2, BiometricOutcome::success, "open without being asked"},
+        {"2", BiometricOutcome::success, "open without being asked"},
     };
     openPane();
-    for (const auto& warning : warnings) {
-        writePreferences({{"passOption", warning.passOption}});
-        device().remove(file::password);
-        if (warning.hasPassword) device().writeFile(file::password, "secret");
-        change([&](Conditions& conditions) { conditions.biometricOutcome = warning.biometry; });
-        openPage({"Locked Albums"});
-        const std::string footer = footerOf("Ask For");
-        EXPECT_THAT(footer, HasSubstr(warning.expected));
-        const bool asks = footer.find("without being asked") == std::string::npos;
-        EXPECT_EQ(footer.find("No password is set") != std::string::npos, asks && !warning.hasPassword);
-    }
+    for (const bool hasPassword : {true, false})
+        for (const auto& warning : warnings) {
+            writePreferences({{"passOption", warning.passOption}});
+            device().remove(file::password);
+            if (hasPassword) device().writeFile(file::password, "secret");
+            change([&](Conditions& conditions) { conditions.biometricOutcome = warning.biometry; });
+            openPage({"Locked Albums"});
+            const std::string footer = footerOf("Ask For");
+            EXPECT_THAT(footer, HasSubstr(warning.expected));
+            const bool asks = footer.find("without being asked") == std::string::npos;
+            EXPECT_EQ(footer.find("No password is set") != std::string::npos, asks && !hasPassword);
+        }
 }
 
 TEST_F(LockingPage, warns_anew_after_another_way_is_chosen) {
@@ -146,17 +144,17 @@ TEST_F(LockingPage, warns_anew_after_another_way_is_chosen) {
     EXPECT_THAT(footerOf("Ask For"), HasSubstr("If Touch ID fails"));
     settings::tapRow("Ask For");
     settings::tapRow("Nothing");
-    static int appearances = 0;
+    static id appeared = nil;
     static IMP frameworks = nullptr;
     const Method method = class_getInstanceMethod([PSListController class], @selector(viewWillAppear:));
     frameworks = method_setImplementation(
         method, reinterpret_cast<IMP>(+[](id self, SEL command, BOOL animated) {
-            ++appearances;
+            appeared = self;
             reinterpret_cast<void (*)(id, SEL, BOOL)>(frameworks)(self, command, animated);
         }));
     [[settings::pane() navigationController] popViewControllerAnimated:NO];
     EXPECT_THAT(footerOf("Ask For"), HasSubstr("open without being asked"));
-    EXPECT_EQ(appearances, 1) << "the framework is to hear of it, too";
+    EXPECT_EQ(appeared, settings::pane()) << "the framework is to hear of it, too";
 }
 
 } // namespace

@@ -19,9 +19,14 @@ class PaneSettings : public PaneTest {
     // Finds the rows of settings on a page and the pages below it, and looks at every text on the way.
     void collectRows(const std::vector<std::string>& page) {
         openPage(page);
+        EXPECT_STREQ([[settings::pane() title] UTF8String],
+                     page.empty() ? "Rollkeeper" : page.back().c_str());
         for (auto row : rows()) {
-            for (const char* text : {"group", "footer", "label"})
-                expectText(row.value(text, ""));
+            for (const char* field : {"group", "footer", "label"}) {
+                // What has no text shows its key, which has a dot and no blank.
+                const std::string text = row.value(field, "");
+                EXPECT_TRUE(text.find('.') == text.npos || text.find(' ') != text.npos) << text;
+            }
             const std::string key = row.value("key", "");
             row["page"] = page;
             if (!key.empty() && !key.starts_with("albumName")) {
@@ -33,11 +38,6 @@ class PaneSettings : public PaneTest {
             }
         }
     }
-    // What has no text shows its key, which has a dot and no blank.
-    static void expectText(const std::string& text) {
-        EXPECT_TRUE(text.find('.') == std::string::npos || text.find(' ') != std::string::npos) << text;
-    }
-
     std::map<std::string, json> shown; // by key, each with its "page"
 };
 

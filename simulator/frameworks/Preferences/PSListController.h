@@ -14,7 +14,7 @@
     PSSpecifier* _specifier;
     UIViewController* _parentController;
 }
-/// The row that opened this pane; names it while it has no title.
+/// The row that opened this pane.
 @property (nonatomic, retain) PSSpecifier* specifier;
 /// The pane that this row stands in; not retained.
 @property (nonatomic, assign) UIViewController* parentController;

@@ -14,12 +14,6 @@
     [super dealloc];
 }
 
-- (void)setSpecifier:(PSSpecifier*)specifier {
-    [_specifier autorelease];
-    _specifier = [specifier retain];
-    if ([[self title] length] == 0) [self setTitle:[specifier name]];
-}
-
 - (id)readPreferenceValue:(PSSpecifier*)specifier {
     return nil;
 }
@@ -189,6 +183,11 @@
 @end
 
 @implementation PSListItemsController
+
+- (void)viewDidLoad {
+    [super viewDidLoad];
+    [self setTitle:[[self specifier] name]];
+}
 
 - (NSArray*)specifiers {
     if (_specifiers != nil) return _specifiers;
