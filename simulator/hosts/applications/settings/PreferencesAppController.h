@@ -3,16 +3,12 @@
 #import "Preferences/Preferences.h"
 #import "hosts/applications/common/AlbumPickerViewController.h"
 
-/// The albums that a wallpaper may be chosen from.
-@interface WallpaperAlbumPickerViewController : AlbumPickerViewController
-@end
-
 /// The list of Settings: the system's own row, then those of installed tools, as the entry loader of
 /// jailbroken devices makes them from /Library/PreferenceLoader/Preferences. A row whose bundle is missing is
 /// left out.
 @interface PSUIPrefsListController : PSListController
 /// Opens the list of albums for a new wallpaper.
-- (WallpaperAlbumPickerViewController*)openWallpaperPicker;
+- (AlbumPickerViewController*)openWallpaperPicker;
 @end
 
 /// The application object of Settings.

@@ -31,9 +31,6 @@ NSArray* rowsOfInstalledTools() {
 
 } // namespace
 
-@implementation WallpaperAlbumPickerViewController
-@end
-
 @implementation PSUIPrefsListController
 
 - (NSArray*)specifiers {
@@ -49,10 +46,9 @@ NSArray* rowsOfInstalledTools() {
     return _specifiers;
 }
 
-- (WallpaperAlbumPickerViewController*)openWallpaperPicker {
+- (AlbumPickerViewController*)openWallpaperPicker {
     [[self navigationController] popToRootViewControllerAnimated:NO];
-    WallpaperAlbumPickerViewController* picker =
-        [[[WallpaperAlbumPickerViewController alloc] init] autorelease];
+    AlbumPickerViewController* picker = [[[AlbumPickerViewController alloc] init] autorelease];
     [picker setTitle:@"Choose"];
     [[self navigationController] pushViewController:picker animated:YES];
     return picker;
