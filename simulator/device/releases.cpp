@@ -7,10 +7,10 @@
 #include <atomic>
 #include <charconv>
 #include <cstddef>
-#include <map>
 #include <mutex>
 #include <set>
 #include <unordered_map>
+#include <utility>
 
 extern "C" const char signatureTableBytes[];
 extern "C" const char signatureTableEnd[];
@@ -86,7 +86,7 @@ std::vector<SignatureRow> parseTable() {
 struct Presence {
     std::mutex lock;
     std::unordered_map<std::string_view, const SignatureRow*> classRows;
-    std::map<std::string, std::set<std::string>, std::less<>> frameworksOfClass;
+    std::vector<std::pair<std::string, std::string>> frameworksByPrefix;
     std::optional<std::set<std::string>> loadedFrameworks;
 };
 
@@ -139,18 +139,21 @@ bool classIsPresent(std::string_view name) {
     const std::lock_guard guard(known.lock);
     const auto row = known.classRows.find(name);
     if (row != known.classRows.end() && !row->second->existsIn(currentRelease())) return false;
-    const auto claimed = known.frameworksOfClass.find(name);
-    if (claimed == known.frameworksOfClass.end() || !known.loadedFrameworks) return true;
-    return std::ranges::any_of(claimed->second, [&](const std::string& framework) {
-        return known.loadedFrameworks->contains(framework);
-    });
+    if (!known.loadedFrameworks) return true;
+    bool isClaimed = false;
+    for (const auto& [prefix, framework] : known.frameworksByPrefix) {
+        if (!name.starts_with(prefix)) continue;
+        if (known.loadedFrameworks->contains(framework)) return true;
+        isClaimed = true;
+    }
+    return !isClaimed;
 }
 
-void registerFramework(std::string_view framework, std::vector<std::string> classes) {
+void registerFramework(std::string_view framework, const std::vector<std::string>& prefixes) {
     Presence& known = presence();
     const std::lock_guard guard(known.lock);
-    for (std::string& name : classes)
-        known.frameworksOfClass[std::move(name)].emplace(framework);
+    for (const std::string& prefix : prefixes)
+        known.frameworksByPrefix.emplace_back(prefix, framework);
 }
 
 void setLoadedFrameworks(std::vector<std::string> frameworks) {

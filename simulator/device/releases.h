@@ -47,9 +47,10 @@ std::span<const SignatureRow> signatureTable();
 // loaded: a class of a framework that is not loaded does not exist in that process.
 bool classIsPresent(std::string_view name);
 
-// Names the classes of a framework; `setLoadedFrameworks` then says which frameworks a host has. Classes that
-// no framework claims are always there, and so is everything until a host names its frameworks.
-void registerFramework(std::string_view framework, std::vector<std::string> classes);
+// Gives a framework all classes whose names begin so; `setLoadedFrameworks` then says which frameworks a host
+// has. Classes that no framework claims are always there, and so is everything until a host names its
+// frameworks.
+void registerFramework(std::string_view framework, const std::vector<std::string>& prefixes);
 void setLoadedFrameworks(std::vector<std::string> frameworks);
 
 } // namespace simulator

@@ -1,9 +1,12 @@
 // Starts host applications as processes of their own and speaks to them over their control sockets.
 #pragma once
 
+#include "device/local_sockets.h"
+
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,12 +44,14 @@ class HostProcess {
   private:
     void start();
     void connect();
-    std::string describeEnd(int status) const;
-    std::string readLine();
+    [[noreturn]] void fail(const std::string& what) const;
+    // Looks every few milliseconds; false after the time-out.
+    bool waitUntil(const std::function<bool()>& condition) const;
 
     HostProcessOptions m_options;
     int m_process = -1;
-    int m_socket = -1;
+    int m_endStatus = 0; // of waitpid, once it is not running
+    Descriptor m_socket;
     std::string m_received;
 };
 

@@ -7,11 +7,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include <concepts>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace simulator {
@@ -26,11 +28,26 @@ struct Application {
 // Registers an application by bundle identifier; a second registration replaces the first. Bundle identifiers
 // without one are plain applications with nothing of their own.
 void registerApplication(std::string_view bundleIdentifier, Application application);
+Application applicationFor(std::string_view bundleIdentifier);
 
 // A verb of the control socket, run on the main thread: {"do": verb, ...} in, answer out. Exceptions of any
 // kind become {"error": text}.
 using Verb = std::function<nlohmann::json(const nlohmann::json& request)>;
 void registerVerb(std::string_view name, Verb verb);
+// What it does may do without the request, and without an answer: then it answers {}.
+template <typename Action>
+    requires(!std::convertible_to<Action, Verb>)
+void registerVerb(std::string_view name, Action action) {
+    registerVerb(name, [action](const nlohmann::json& request) -> nlohmann::json {
+        if constexpr (std::invocable<Action, const nlohmann::json&>)
+            action(request);
+        else if constexpr (std::is_void_v<std::invoke_result_t<Action>>)
+            action();
+        else
+            return action();
+        return nlohmann::json::object();
+    });
+}
 nlohmann::json performVerb(const nlohmann::json& request);
 
 struct HostOptions {
@@ -54,10 +71,10 @@ class Host {
     const std::vector<Installation>& installations() const; // what the library installed, in order
 
     // Runs the main run loop until `condition` holds; false after `timeout` seconds.
-    bool runUntil(const std::function<bool()>& condition, double timeout = 5);
-    void spin(double seconds);
+    static bool runUntil(const std::function<bool()>& condition, double timeout = 5);
+    static void spin(double seconds);
     // Runs what the main run loop has waiting, without waiting for more.
-    void drain();
+    static void drain();
 };
 
 } // namespace simulator

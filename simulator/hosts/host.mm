@@ -7,7 +7,6 @@
 #include "device/root.h"
 #include "device/threads.h"
 #include "frameworks/CoreFoundation/CoreFoundation.h"
-#include "hosts/registry.h"
 #include "loader/loader.h"
 
 #import <Foundation/Foundation.h>

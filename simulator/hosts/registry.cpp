@@ -1,4 +1,4 @@
-#include "hosts/registry.h"
+#include "hosts/host.h"
 
 #include <map>
 

@@ -69,7 +69,7 @@ TEST_F(Pickers, messenger_opens_no_album_while_locked_ones_are_hidden_and_clears
         replaceMethod("MNMontageAlbumListViewController", @selector(tableView:cellForRowAtIndexPath:),
                       &cellForRow, &originalCell);
     });
-    MNMontageAlbumListViewController* list = [messenger::application() montageAlbumList];
+    MNMontageAlbumListViewController* list = messenger::montage();
     UITableView* table = [[[UITableView alloc] init] autorelease]; // reuses no cell
     forEachSetting({}, [&](bool enabled, bool hidesLocked) {
         for (const auto& row : messenger::listMontage())

@@ -1,7 +1,6 @@
 #import "CameraUI/CameraUI.h"
 
-#import "Dispatch/Dispatch.h"
-#import "Photos/Photos.h"
+#import "PhotosUI/ScreenHelpers.h"
 
 #include "device/threads.h"
 
@@ -11,20 +10,17 @@ namespace {
 constexpr CGSize photoPixels = {400, 300};
 }
 
-@implementation CAMCaptureController
+@implementation CAMCaptureEngine
+
+@synthesize captureThread = _captureThread;
 
 - (instancetype)init {
     self = [super init];
     if (!self) return nil;
-    _photoOutput = [[AVCapturePhotoOutput alloc] init];
     _captureThread = [[NSThread alloc] initWithTarget:self selector:@selector(_runCaptureThread) object:nil];
     [_captureThread setName:@"com.apple.camera.capture-engine"];
     [_captureThread start];
     return self;
-}
-
-- (NSThread*)captureThread {
-    return _captureThread;
 }
 
 - (void)_runCaptureThread {
@@ -41,18 +37,15 @@ constexpr CGSize photoPixels = {400, 300};
 }
 
 - (void)captureStillImageWithError:(NSError*)error {
-    CAMCaptureController* controller = self;
     NSError* outcome = [error retain];
-    simulator::performOnThread(_captureThread, [controller, outcome] {
-        auto settings = [[[AVCaptureResolvedPhotoSettings alloc] initWithUniqueID:++controller->_lastCapture]
-            autorelease];
-        [controller captureDidFinishWithSettings:settings error:[outcome autorelease]];
+    simulator::performOnThread(_captureThread, [self, outcome] {
+        [self captureOutput:nil didFinishCaptureForResolvedSettings:nil error:[outcome autorelease]];
     });
 }
 
-- (void)captureDidFinishWithSettings:(AVCaptureResolvedPhotoSettings*)settings error:(NSError*)error {
-    if (error) return;
-    NSUInteger seed = static_cast<NSUInteger>([settings uniqueID]);
+- (void)captureOutput:(id)output didFinishCaptureForResolvedSettings:(id)settings error:(NSError*)error {
+    if (error != nil) return;
+    const NSUInteger seed = ++_capturesSaved;
     [self _saveToLibrary:^{
         [PHAssetChangeRequest creationRequestForAssetFromImage:[UIImage imageWithPixelSize:photoPixels
                                                                                       seed:seed]];
@@ -67,29 +60,11 @@ constexpr CGSize photoPixels = {400, 300};
 }
 
 - (void)_saveToLibrary:(void (^)(void))creation {
-    [[PHPhotoLibrary sharedPhotoLibrary] performChanges:creation
-                                      completionHandler:^(BOOL success, NSError*) {
-                                          if (!success) return;
-                                          dispatch_async(dispatch_get_main_queue(), ^{
-                                              [[NSNotificationCenter defaultCenter]
-                                                  postNotificationName:CAMCaptureDidSaveNotification
+    simulator::changeLibrary(creation, ^(BOOL success) {
+        if (success)
+            [[NSNotificationCenter defaultCenter] postNotificationName:CAMCaptureDidSaveNotification
                                                                 object:self];
-                                          });
-                                      }];
-}
-
-@end
-
-@implementation CAMCaptureEngine
-
-- (void)captureDidFinishWithSettings:(AVCaptureResolvedPhotoSettings*)settings error:(NSError*)error {
-    [self captureOutput:_photoOutput didFinishCaptureForResolvedSettings:settings error:error];
-}
-
-- (void)captureOutput:(AVCapturePhotoOutput*)output
-    didFinishCaptureForResolvedSettings:(AVCaptureResolvedPhotoSettings*)settings
-                                  error:(NSError*)error {
-    [super captureDidFinishWithSettings:settings error:error];
+    });
 }
 
 @end

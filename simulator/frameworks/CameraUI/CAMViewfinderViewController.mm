@@ -1,34 +1,87 @@
 #import "CameraUI/CameraUI.h"
 
-#import "Photos/Photos.h"
+#import "PhotosUI/ScreenHelpers.h"
 
 #include <objc/runtime.h>
 
 namespace {
 
 constexpr CGFloat bottomBarHeight = 100;
+constexpr CGFloat imageWellSide = 44;
+constexpr CGFloat shutterSide = 66;
+constexpr CGFloat margin = 16;
 
 UIImage* pictureOfNewestPhoto() {
-    if (!objc_getClass("PHAsset")) return nil; // before iOS 8
+    if (objc_getClass("PHAsset") == Nil) return nil; // before iOS 8
     PHFetchOptions* newestFirst = [[[PHFetchOptions alloc] init] autorelease];
     [newestFirst setSortDescriptors:@[ [NSSortDescriptor sortDescriptorWithKey:@"creationDate"
                                                                      ascending:NO] ]];
     PHAsset* newest = [[PHAsset fetchAssetsWithOptions:newestFirst] firstObject];
-    if (newest == nil) return nil;
-    PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];
-    [options setSynchronous:YES];
-    __block UIImage* picture = nil;
-    [[PHImageManager defaultManager] requestImageForAsset:newest
-                                               targetSize:CGSizeMake(88, 88)
-                                              contentMode:PHImageContentModeAspectFill
-                                                  options:options
-                                            resultHandler:^(UIImage* image, NSDictionary*) {
-                                                picture = [image retain];
-                                            }];
-    return [picture autorelease];
+    return simulator::pictureOf(newest, CGSizeMake(88, 88));
 }
 
 } // namespace
+
+@implementation CAMImageWell
+
+@synthesize thumbnailImage = _thumbnailImage;
+
+- (void)dealloc {
+    [_thumbnailImage release];
+    [super dealloc];
+}
+
+- (void)setThumbnailImage:(UIImage*)image {
+    [_thumbnailImage autorelease];
+    _thumbnailImage = [image retain];
+    [self updateThumbnail];
+}
+
+- (void)updateThumbnail {
+    [self setImage:[self thumbnailImage] forState:UIControlStateNormal];
+}
+
+@end
+
+@implementation CustomDrawButton
+@end
+
+@implementation CAMBottomBar
+
+@synthesize backgroundView = _backgroundView, imageWell = _imageWell, shutterButton = _shutterButton;
+
+- (instancetype)initWithFrame:(CGRect)frame {
+    self = [super initWithFrame:frame];
+    if (!self) return nil;
+    _backgroundView = [[UIView alloc] initWithFrame:[self bounds]];
+    [_backgroundView setBackgroundColor:[UIColor blackColor]];
+    [_backgroundView setUserInteractionEnabled:NO];
+    _imageWell = [[CAMImageWell alloc] initWithFrame:CGRectMake(0, 0, imageWellSide, imageWellSide)];
+    [_imageWell setAccessibilityLabel:@"Last photo"];
+    _shutterButton = [[UIButton buttonWithType:UIButtonTypeCustom] retain];
+    [_shutterButton setBounds:CGRectMake(0, 0, shutterSide, shutterSide)];
+    [_shutterButton setAccessibilityLabel:@"Shutter"];
+    for (UIView* view in @[ _backgroundView, _imageWell, _shutterButton ])
+        [self addSubview:view];
+    return self;
+}
+
+- (void)dealloc {
+    [_backgroundView release];
+    [_imageWell release];
+    [_shutterButton release];
+    [super dealloc];
+}
+
+- (void)layoutSubviews {
+    [super layoutSubviews];
+    const CGSize size = [self bounds].size;
+    [_backgroundView setFrame:[self bounds]];
+    [_imageWell setCenter:CGPointMake(margin + imageWellSide / 2, size.height / 2)];
+    [_shutterButton setCenter:CGPointMake(size.width / 2, size.height / 2)];
+}
+
+@end
 
 @implementation CAMViewfinderViewController
 
@@ -37,10 +90,9 @@ UIImage* pictureOfNewestPhoto() {
 - (instancetype)init {
     self = [super init];
     if (!self) return nil;
-    Class engineClass = objc_getClass("CAMCaptureEngine");
-    _captureController = [[engineClass ? engineClass : [CAMCaptureController class] alloc] init];
+    _captureController = [[CAMCaptureEngine alloc] init];
     [[NSNotificationCenter defaultCenter] addObserver:self
-                                             selector:@selector(_engineDidSave:)
+                                             selector:@selector(_showNewestPhoto)
                                                  name:CAMCaptureDidSaveNotification
                                                object:_captureController];
     return self;
@@ -55,9 +107,9 @@ UIImage* pictureOfNewestPhoto() {
 
 - (void)viewDidLoad {
     [super viewDidLoad];
-    CGRect bounds = [[self view] bounds];
-    CGRect barFrame = CGRectMake(0, bounds.size.height - bottomBarHeight, bounds.size.width, bottomBarHeight);
-    _bottomBar = [[CAMBottomBar alloc] initWithFrame:barFrame];
+    const CGSize size = [[self view] bounds].size;
+    _bottomBar = [[CAMBottomBar alloc]
+        initWithFrame:CGRectMake(0, size.height - bottomBarHeight, size.width, bottomBarHeight)];
     [_bottomBar setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleTopMargin];
     [[_bottomBar shutterButton] addTarget:self
                                    action:@selector(_shutterPressed:)
@@ -67,14 +119,14 @@ UIImage* pictureOfNewestPhoto() {
 
 - (void)viewWillAppear:(BOOL)animated {
     [super viewWillAppear:animated];
-    [[_bottomBar imageWell] setThumbnailImage:pictureOfNewestPhoto()];
+    [self _showNewestPhoto];
 }
 
 - (void)_shutterPressed:(id)sender {
     [_captureController captureStillImageWithError:nil];
 }
 
-- (void)_engineDidSave:(NSNotification*)notification {
+- (void)_showNewestPhoto {
     [[_bottomBar imageWell] setThumbnailImage:pictureOfNewestPhoto()];
 }
 

@@ -1,43 +1,32 @@
 #pragma once
 
-#import "AVFoundation/AVFoundation.h"
 #import "UIKit/UIKit.h"
 
-@class CAMImageWell;
-
-/// Runs the camera, and is all of it before iOS 9. Captures end on a thread of its own that runs a run loop;
-/// the controller lives as long as the process.
-@interface CAMCaptureController : NSObject {
+/// Runs the camera. Captures end on a thread of its own that runs a run loop; the engine lives as long as the
+/// process.
+@interface CAMCaptureEngine : NSObject {
     NSThread* _captureThread;
-    AVCapturePhotoOutput* _photoOutput;
-    int64_t _lastCapture;
+    NSUInteger _capturesSaved;
 }
+@property (nonatomic, readonly) NSThread* captureThread;
 /// Takes a photo, which fails when there is an error; the end of the capture follows on the capture thread.
 /// Any thread.
 - (void)captureStillImageWithError:(NSError*)error;
 /// Records a video, which then is in the library. Any thread.
 - (void)captureVideo;
-- (NSThread*)captureThread;
-/// Puts the photo into the library, unless the capture failed. Capture thread.
-- (void)captureDidFinishWithSettings:(AVCaptureResolvedPhotoSettings*)settings error:(NSError*)error;
+/// Puts the photo into the library, unless the capture failed. The output and the settings that were used are
+/// nil here. Capture thread.
+- (void)captureOutput:(id)output didFinishCaptureForResolvedSettings:(id)settings error:(NSError*)error;
 @end
 
-/// The camera from iOS 9 on: it is told of the end of a capture by the photo output.
-@interface CAMCaptureEngine : CAMCaptureController
-- (void)captureOutput:(AVCapturePhotoOutput*)output
-    didFinishCaptureForResolvedSettings:(AVCaptureResolvedPhotoSettings*)settings
-                                  error:(NSError*)error;
-@end
-
-/// Posted on the main thread when a photo or video of the controller (the object) has reached the library.
+/// Posted on the main thread when a photo or video of the engine (the object) has reached the library.
 extern NSString* const CAMCaptureDidSaveNotification;
 
 /// The small picture of the newest photo beside the shutter button.
 @interface CAMImageWell : UIButton {
     UIImage* _thumbnailImage;
 }
-@property (nonatomic, readonly) UIImage* thumbnailImage;
-- (void)setThumbnailImage:(UIImage*)image;
+@property (nonatomic, retain) UIImage* thumbnailImage;
 /// Shows what `thumbnailImage` says now.
 - (void)updateThumbnail;
 @end
@@ -55,9 +44,13 @@ extern NSString* const CAMCaptureDidSaveNotification;
 
 /// The screen of the camera.
 @interface CAMViewfinderViewController : UIViewController {
-    CAMCaptureController* _captureController;
+    CAMCaptureEngine* _captureController;
     CAMBottomBar* _bottomBar;
 }
-@property (nonatomic, readonly) CAMCaptureController* captureController;
+@property (nonatomic, readonly) CAMCaptureEngine* captureController;
 @property (nonatomic, readonly) CAMBottomBar* bottomBar;
+@end
+
+/// A button that some third-party camera tools put into the bottom bar.
+@interface CustomDrawButton : UIButton
 @end

@@ -1,6 +1,5 @@
 #pragma once
 
-#import "PhotosUI/PUStackView.h"
 #import "UIKit/UIKit.h"
 
 @class PUAlbumListCellContentView;
@@ -13,6 +12,14 @@ typedef NS_OPTIONS(NSUInteger, PUAlbumEditCapabilities) {
     PUAlbumEditCapabilitiesReorder = 1 << 2,
 };
 
+/// The square that shows an album's cover, with rounded corners.
+@interface PUStackView : UIView {
+    UIImageView* _coverView;
+    UIImageView* _cornerOverlayView;
+}
+@property (nonatomic, readonly) UIImageView* coverView;
+@end
+
 @protocol PUAlbumListCellDelegate <NSObject>
 - (void)albumListCellContentView:(PUAlbumListCellContentView*)contentView performDeleteAction:(id)sender;
 @end
@@ -23,8 +30,6 @@ typedef NS_OPTIONS(NSUInteger, PUAlbumEditCapabilities) {
     UITextField* _titleTextField;
     UILabel* _subtitleLabel;
     UIButton* _deleteButton;
-    NSString* _title;
-    NSString* _subtitle;
     NSUInteger _editCapabilities;
     BOOL _editing;
     id<PUAlbumListCellDelegate> _delegate;
@@ -37,24 +42,17 @@ typedef NS_OPTIONS(NSUInteger, PUAlbumEditCapabilities) {
 /// Not retained.
 @property (nonatomic, assign) id<PUAlbumListCellDelegate> delegate;
 @property (nonatomic, readonly) PUStackView* stackView;
+@property (nonatomic, readonly) UITextField* _titleTextField;
+@property (nonatomic, readonly) UILabel* _subtitleLabel;
+/// nil unless the album can be deleted now.
+@property (nonatomic, readonly) UIButton* _deleteButton;
 /// YES for an album that may be deleted.
 - (BOOL)showsDeleteButtonWhenEditing;
-/// nil unless the album can be deleted now.
-- (UIButton*)_deleteButton;
-- (UITextField*)_titleTextField;
-- (UILabel*)_subtitleLabel;
 - (void)_deleteAction:(id)sender;
 @end
 
 /// An album in the grid of albums.
 @interface PUAlbumListCell : UICollectionViewCell {
-    PUAlbumListCellContentView* _albumListCellContentView;
-}
-@property (nonatomic, readonly) PUAlbumListCellContentView* albumListCellContentView;
-@end
-
-/// An album in a plain list of albums.
-@interface PUAlbumListTableViewCell : UITableViewCell {
     PUAlbumListCellContentView* _albumListCellContentView;
 }
 @property (nonatomic, readonly) PUAlbumListCellContentView* albumListCellContentView;

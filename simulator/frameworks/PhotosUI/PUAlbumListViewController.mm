@@ -1,15 +1,12 @@
 #import "PhotosUI/PUAlbumListViewController.h"
-#import "PhotosUI/BarButton.h"
 
-#import "Dispatch/Dispatch.h"
-#import "PhotosUI/PUNavigationController.h"
 #import "PhotosUI/PUPhotosGrid.h"
-#import "PhotosUI/PURootCollections.h"
-
-#include <Block.h>
+#import "PhotosUI/ScreenHelpers.h"
 
 #include <algorithm>
 #include <cmath>
+
+using simulator::barButton;
 
 namespace {
 
@@ -29,138 +26,67 @@ CGFloat coverSideForWidth(CGFloat width) {
         if (known.screenWidth == width) return known.side;
     constexpr CGFloat margin = 16;
     constexpr CGFloat widestCover = 180;
-    CGFloat columns = std::max<CGFloat>(2, std::ceil((width - margin) / (widestCover + margin)));
+    const CGFloat columns = std::max<CGFloat>(2, std::ceil((width - margin) / (widestCover + margin)));
     return std::floor((width - margin * (columns + 1)) / columns);
 }
 
-BOOL isAssetCollection(PHCollection* collection) {
-    return [collection isKindOfClass:[PHAssetCollection class]];
+// nil for a folder, and for the row of people.
+PHAssetCollection* albumOf(PHCollection* collection) {
+    const bool isAlbum = [collection isKindOfClass:[PHAssetCollection class]];
+    return isAlbum ? static_cast<PHAssetCollection*>(collection) : nil;
 }
 
-BOOL isUserAlbum(PHCollection* collection) {
-    if (!isAssetCollection(collection)) return NO;
-    auto album = static_cast<PHAssetCollection*>(collection);
-    return [album assetCollectionType] == PHAssetCollectionTypeAlbum &&
-           [album assetCollectionSubtype] == PHAssetCollectionSubtypeAlbumRegular;
+bool hasSubtype(PHCollection* collection, PHAssetCollectionSubtype subtype) {
+    return [albumOf(collection) assetCollectionSubtype] == subtype;
 }
 
-BOOL isPlaces(PHCollection* collection) {
-    return isAssetCollection(collection) &&
-           [static_cast<PHAssetCollection*>(collection) assetCollectionSubtype] == placesSubtype;
+bool isUserAlbum(PHCollection* collection) {
+    return hasSubtype(collection, PHAssetCollectionSubtypeAlbumRegular);
+}
+
+NSUInteger photosIn(PHAssetCollection* album) {
+    return [[PHAsset fetchAssetsInAssetCollection:album options:nil] count];
 }
 
 // Stock albums appear once they hold something; the library itself is always there.
-BOOL isShown(PHCollection* collection) {
-    if (!isAssetCollection(collection)) return YES;
-    auto album = static_cast<PHAssetCollection*>(collection);
-    if ([album assetCollectionType] != PHAssetCollectionTypeSmartAlbum) return YES;
-    if ([album assetCollectionSubtype] == PHAssetCollectionSubtypeSmartAlbumUserLibrary) return YES;
-    return [[PHAsset fetchAssetsInAssetCollection:album options:nil] count] > 0;
+bool isShown(PHCollection* collection) {
+    PHAssetCollection* album = albumOf(collection);
+    return [album assetCollectionType] != PHAssetCollectionTypeSmartAlbum ||
+           hasSubtype(album, PHAssetCollectionSubtypeSmartAlbumUserLibrary) || photosIn(album) > 0;
 }
 
 NSUInteger editCapabilitiesOf(PHCollection* collection) {
     constexpr NSUInteger all =
         PUAlbumEditCapabilitiesDelete | PUAlbumEditCapabilitiesRename | PUAlbumEditCapabilitiesReorder;
     if (isUserAlbum(collection)) return all;
-    if ([collection isKindOfClass:[PHCollectionList class]]) return PUAlbumEditCapabilitiesReorder;
-    if (!isAssetCollection(collection)) return PUAlbumEditCapabilitiesNone;
-    auto album = static_cast<PHAssetCollection*>(collection);
-    BOOL staysInPlace =
-        [album isTrashBin] || [album assetCollectionSubtype] == PHAssetCollectionSubtypeSmartAlbumUserLibrary;
+    const bool staysInPlace = collection == nil || [albumOf(collection) isTrashBin] ||
+                              hasSubtype(collection, PHAssetCollectionSubtypeSmartAlbumUserLibrary);
     return staysInPlace ? PUAlbumEditCapabilitiesNone : PUAlbumEditCapabilitiesReorder;
 }
 
 UIImage* coverOf(PHCollection* collection, CGFloat side) {
-    if (!isAssetCollection(collection)) return nil;
-    PHAsset* key = [[PHAsset fetchKeyAssetsInAssetCollection:static_cast<PHAssetCollection*>(collection)
-                                                     options:nil] firstObject];
-    if (key == nil) return nil;
-    PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];
-    [options setSynchronous:YES];
-    __block UIImage* cover = nil;
-    [[PHImageManager defaultManager] requestImageForAsset:key
-                                               targetSize:CGSizeMake(side, side)
-                                              contentMode:PHImageContentModeAspectFill
-                                                  options:options
-                                            resultHandler:^(UIImage* image, NSDictionary*) {
-                                                cover = [image retain];
-                                            }];
-    return [cover autorelease];
+    if (albumOf(collection) == nil) return nil;
+    PHFetchResult* key = [PHAsset fetchKeyAssetsInAssetCollection:albumOf(collection) options:nil];
+    return simulator::pictureOf([key firstObject], CGSizeMake(side, side));
 }
 
 } // namespace
 
-@implementation PUAlbumPickerSessionInfo
-
-@synthesize transferredAssets = _transferredAssets;
-
-- (instancetype)initWithTransferredAssets:(NSArray*)assets completionHandler:(void (^)(BOOL added))handler {
-    self = [super init];
-    if (!self) return nil;
-    _transferredAssets = [assets copy];
-    if (handler) _completionHandler = Block_copy(handler);
-    return self;
-}
-
-- (void)dealloc {
-    [_transferredAssets release];
-    if (_completionHandler) Block_release(_completionHandler);
-    [super dealloc];
-}
-
-- (void)finishWithResult:(BOOL)added {
-    auto handler = _completionHandler;
-    _completionHandler = nil;
-    if (!handler) return;
-    handler(added);
-    Block_release(handler);
-}
-
-@end
-
-@interface PUAlbumListViewController (Private)
-- (void)_updateNavigationItem;
-- (void)_updateLayout;
-- (void)_confirmDeletionOfCollection:(PHCollection*)collection fromView:(UIView*)view;
-@end
-
 @implementation PUAlbumListViewController
 
-@synthesize sessionInfo = _sessionInfo, disallowsSearch = _disallowsSearch;
+@synthesize pickedAssets = _pickedAssets, pickingDelegate = _pickingDelegate;
+@synthesize mainCollectionView = _mainCollectionView, _pickerBannerView = _pickerBannerView;
 
 - (instancetype)init {
-    return [self initWithCollectionList:nil];
-}
-
-- (instancetype)initWithCollectionList:(PHCollectionList*)list {
     self = [super init];
-    if (!self) return nil;
-    _collectionList = [list retain];
-    [self setTitle:list ? [list localizedTitle] : @"Albums"];
+    [self setTitle:@"Albums"];
     return self;
-}
-
-+ (void)presentPickerForAssets:(NSArray*)assets
-            fromViewController:(UIViewController*)presenter
-             completionHandler:(void (^)(BOOL added))handler {
-    PUAlbumPickerSessionInfo* session = [[[PUAlbumPickerSessionInfo alloc]
-        initWithTransferredAssets:assets
-                completionHandler:^(BOOL added) {
-                    [presenter dismissViewControllerAnimated:YES completion:nil];
-                    handler(added);
-                }] autorelease];
-    PUAlbumListViewController* list = [[[self alloc] init] autorelease];
-    [list setSessionInfo:session];
-    PUNavigationController* navigation =
-        [[[PUNavigationController alloc] initWithRootViewController:list] autorelease];
-    [presenter presentViewController:navigation animated:YES completion:nil];
 }
 
 - (void)dealloc {
     [_mainCollectionView setDataSource:nil];
     [_mainCollectionView setDelegate:nil];
-    [_collectionList release];
-    [_sessionInfo release];
+    [_pickedAssets release];
     [_rows release];
     [_mainCollectionView release];
     [_pickerBannerView release];
@@ -169,19 +95,11 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 
 #pragma mark The screen
 
-- (UICollectionView*)mainCollectionView {
-    return _mainCollectionView;
-}
-
-- (UIView*)_pickerBannerView {
-    return _pickerBannerView;
-}
-
 - (void)viewDidLoad {
     [super viewDidLoad];
-    CGRect bounds = [[self view] bounds];
     UICollectionViewFlowLayout* layout = [[[UICollectionViewFlowLayout alloc] init] autorelease];
-    _mainCollectionView = [[UICollectionView alloc] initWithFrame:bounds collectionViewLayout:layout];
+    _mainCollectionView = [[UICollectionView alloc] initWithFrame:[[self view] bounds]
+                                             collectionViewLayout:layout];
     [_mainCollectionView
         setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
     [_mainCollectionView setBackgroundColor:[UIColor whiteColor]];
@@ -189,21 +107,20 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     [_mainCollectionView setDataSource:self];
     [_mainCollectionView setDelegate:self];
     [[self view] addSubview:_mainCollectionView];
-    if (_sessionInfo) [self _addPickerBanner];
+    if (_pickedAssets != nil) [self _addPickerBanner];
     [self _updateLayout];
 }
 
 - (void)_addPickerBanner {
-    CGFloat width = [[self view] bounds].size.width;
-    _pickerBannerView = [[UIView alloc] initWithFrame:CGRectMake(0, 0, width, bannerHeight)];
+    CGRect rest = [[self view] bounds];
+    _pickerBannerView = [[UIView alloc] initWithFrame:CGRectMake(0, 0, rest.size.width, bannerHeight)];
     [_pickerBannerView setAutoresizingMask:UIViewAutoresizingFlexibleWidth];
     UILabel* label =
         [[[UILabel alloc] initWithFrame:CGRectInset([_pickerBannerView bounds], 16, 16)] autorelease];
-    NSUInteger count = [[_sessionInfo transferredAssets] count];
+    const NSUInteger count = [_pickedAssets count];
     [label setText:[NSString stringWithFormat:@"Add %lu photo%s to an album.", count, count == 1 ? "" : "s"]];
     [_pickerBannerView addSubview:label];
     [[self view] addSubview:_pickerBannerView];
-    CGRect rest = [[self view] bounds];
     rest.origin.y += bannerHeight;
     rest.size.height -= bannerHeight;
     [_mainCollectionView setFrame:rest];
@@ -220,53 +137,46 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     [self _updateLayout];
 }
 
-- (void)viewWillTransitionToSize:(CGSize)size
-       withTransitionCoordinator:(id<UIViewControllerTransitionCoordinator>)coordinator {
-    [super viewWillTransitionToSize:size withTransitionCoordinator:coordinator];
-    [coordinator animateAlongsideTransition:nil
-                                 completion:^(id) {
-                                     [self _updateLayout];
-                                 }];
-}
-
 - (void)_updateLayout {
-    CGFloat width = [_mainCollectionView bounds].size.width;
-    CGFloat side = coverSideForWidth(width);
+    const CGFloat width = [_mainCollectionView bounds].size.width;
+    const CGFloat side = coverSideForWidth(width);
     auto layout = static_cast<UICollectionViewFlowLayout*>([_mainCollectionView collectionViewLayout]);
-    CGSize itemSize = CGSizeMake(side, side + spaceBelowCover);
+    const CGSize itemSize = CGSizeMake(side, side + spaceBelowCover);
     if (layout == nil || CGSizeEqualToSize([layout itemSize], itemSize)) return;
-    CGFloat columns = std::floor(width / side);
-    CGFloat margin = std::floor((width - columns * side) / (columns + 1));
+    const CGFloat columns = std::floor(width / side);
+    const CGFloat margin = std::floor((width - columns * side) / (columns + 1));
     [layout setItemSize:itemSize];
     [layout setSectionInset:UIEdgeInsets{margin, margin, margin, margin}];
     [layout setMinimumInteritemSpacing:margin];
     [layout setMinimumLineSpacing:margin];
 }
 
+// Behind the buttons for a new album and for the search there is nothing.
 - (void)_updateNavigationItem {
     UINavigationItem* item = [self navigationItem];
-    if (_sessionInfo) {
+    if (_pickedAssets != nil) {
         [item setRightBarButtonItem:barButton(@"Cancel", self, @selector(_cancelPicking:))];
         return;
     }
-    NSMutableArray* right = [NSMutableArray array];
-    NSString* editTitle = [self isEditing] ? @"Done" : @"Edit";
-    [right addObject:barButton(editTitle, self, @selector(_toggleEditing:))];
-    if (![self disallowsSearch]) [right addObject:barButton(@"Search", self, @selector(_search:))];
-    [item setRightBarButtonItems:right];
-    if ([item leftBarButtonItem] == nil)
-        [item setLeftBarButtonItem:barButton(@"+", self, @selector(_addAlbum:))];
+    UIBarButtonItem* edit = barButton([self isEditing] ? @"Done" : @"Edit", self, @selector(_toggleEditing:));
+    UIBarButtonItem* search = [self disallowsSearch] ? nil : barButton(@"Search", nil, nullptr);
+    [item setRightBarButtonItems:[NSArray arrayWithObjects:edit, search, nil]];
+    if ([item leftBarButtonItem] == nil) [item setLeftBarButtonItem:barButton(@"+", nil, nullptr)];
 }
 
 - (BOOL)showPeople {
-    return _collectionList == nil && _sessionInfo == nil ? YES : NO;
+    return _pickedAssets == nil;
 }
 
 - (BOOL)showPlaces {
-    return _sessionInfo == nil ? YES : NO;
+    return _pickedAssets == nil;
 }
 
 - (BOOL)alwaysHideTabBar {
+    return NO;
+}
+
+- (BOOL)disallowsSearch {
     return NO;
 }
 
@@ -276,18 +186,17 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 - (void)reloadContentView {
     NSMutableArray* rows = [NSMutableArray array];
     if ([self showPeople]) [rows addObject:[NSNull null]];
-    BOOL places = [self showPlaces];
-    for (PHCollection* collection in _collectionList ? [_collectionList collections] : PURootCollections()) {
-        if (isPlaces(collection) && !places) continue;
-        if (isShown(collection)) [rows addObject:collection];
-    }
+    const BOOL places = [self showPlaces];
+    for (PHCollection* collection in simulator::rootCollections())
+        if ((places || !hasSubtype(collection, placesSubtype)) && isShown(collection))
+            [rows addObject:collection];
     [_rows release];
     _rows = [rows copy];
     [_mainCollectionView reloadData];
 }
 
 - (PHCollection*)collectionAtIndexPath:(NSIndexPath*)path {
-    NSUInteger row = static_cast<NSUInteger>([path item]);
+    const auto row = static_cast<NSUInteger>([path item]);
     if (path == nil || row >= [_rows count]) return nil;
     id object = [_rows objectAtIndex:row];
     return object == [NSNull null] ? nil : object;
@@ -302,16 +211,14 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (NSString*)titleForCollection:(PHCollection*)collection {
-    return collection ? [collection localizedTitle] : @"People";
+    return collection != nil ? [collection localizedTitle] : @"People";
 }
 
 - (NSString*)subtitleForCollection:(PHCollection*)collection {
     if (collection == nil) return nil;
-    NSUInteger count =
-        isAssetCollection(collection)
-            ? [[PHAsset fetchAssetsInAssetCollection:static_cast<PHAssetCollection*>(collection)
-                                             options:nil] count]
-            : [[static_cast<PHCollectionList*>(collection) collections] count];
+    PHAssetCollection* album = albumOf(collection);
+    const NSUInteger count =
+        album != nil ? photosIn(album) : [[static_cast<PHCollectionList*>(collection) collections] count];
     return [NSString stringWithFormat:@"%lu", count];
 }
 
@@ -334,7 +241,8 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     [content setEditing:[self isEditing]];
     [self setTitleForCell:cell withCollection:collection];
     [content setSubtitle:[self subtitleForCollection:collection]];
-    [[content stackView] setCoverImage:coverOf(collection, [[content stackView] bounds].size.width)];
+    PUStackView* stack = [content stackView];
+    [[stack coverView] setImage:coverOf(collection, [stack bounds].size.width)];
     return cell;
 }
 
@@ -345,7 +253,8 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 
 - (PUAlbumListCellContentView*)_preparedAlbumListCellContentViewAtIndexPath:(NSIndexPath*)path {
     PUAlbumListCellContentView* visible = [self visibleAlbumListCellContentViewAtIndexPath:path];
-    if (visible || path == nil || static_cast<NSUInteger>([path item]) >= [_rows count]) return visible;
+    if (visible != nil || path == nil || static_cast<NSUInteger>([path item]) >= [_rows count])
+        return visible;
     UICollectionViewCell* cell = [self collectionView:_mainCollectionView cellForItemAtIndexPath:path];
     return [static_cast<PUAlbumListCell*>(cell) albumListCellContentView];
 }
@@ -354,29 +263,19 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 
 - (void)collectionView:(UICollectionView*)collectionView didSelectItemAtIndexPath:(NSIndexPath*)path {
     [collectionView deselectItemAtIndexPath:path animated:NO];
-    if ([self isEditing]) return;
-    [self didSelectItemAtIndexPath:path];
+    if (![self isEditing]) [self didSelectItemAtIndexPath:path];
 }
 
 - (void)didSelectItemAtIndexPath:(NSIndexPath*)path {
-    PHCollection* collection = [self collectionAtIndexPath:path];
-    if ([collection isKindOfClass:[PHCollectionList class]])
-        [self _openFolder:static_cast<PHCollectionList*>(collection)];
-    else if (_sessionInfo)
-        [self _addPickedAssetsToAlbum:static_cast<PHAssetCollection*>(collection)];
+    PHAssetCollection* album = albumOf([self collectionAtIndexPath:path]);
+    if (album == nil) return;
+    if (_pickedAssets != nil)
+        [self _addPickedAssetsToAlbum:album];
     else
-        [self _openAlbum:static_cast<PHAssetCollection*>(collection)];
-}
-
-- (void)_openFolder:(PHCollectionList*)folder {
-    PUAlbumListViewController* list =
-        [[[PUAlbumListViewController alloc] initWithCollectionList:folder] autorelease];
-    [list setSessionInfo:_sessionInfo];
-    [[self navigationController] pushViewController:list animated:YES];
+        [self _openAlbum:album];
 }
 
 - (void)_openAlbum:(PHAssetCollection*)album {
-    if (album == nil) return;
     PUPhotosAlbumViewController* contents = [[[PUPhotosAlbumViewController alloc] init] autorelease];
     [contents setAssetCollection:album
         fetchResultContainingAssetCollection:nil
@@ -386,28 +285,24 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (void)_addPickedAssetsToAlbum:(PHAssetCollection*)album {
-    if (album == nil) return;
-    NSArray* assets = [_sessionInfo transferredAssets];
-    PUAlbumPickerSessionInfo* session = _sessionInfo;
-    [[PHPhotoLibrary sharedPhotoLibrary]
-        performChanges:^{
+    NSArray* assets = _pickedAssets;
+    simulator::changeLibrary(
+        ^{
             [[PHAssetCollectionChangeRequest changeRequestForAssetCollection:album] addAssets:assets];
-        }
-        completionHandler:^(BOOL success, NSError*) {
-            dispatch_async(dispatch_get_main_queue(), ^{
-                [session finishWithResult:success];
-            });
-        }];
+        },
+        ^(BOOL) {
+            [_pickingDelegate albumListDidFinishPicking:self];
+        });
 }
 
 - (void)_cancelPicking:(id)sender {
-    [_sessionInfo finishWithResult:NO];
+    [_pickingDelegate albumListDidFinishPicking:self];
 }
 
 #pragma mark Editing
 
 - (void)_toggleEditing:(id)sender {
-    [self setEditing:[self isEditing] ? NO : YES animated:YES];
+    [self setEditing:![self isEditing] animated:YES];
 }
 
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated {
@@ -418,12 +313,11 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (void)albumListCellContentView:(PUAlbumListCellContentView*)contentView performDeleteAction:(id)sender {
-    for (UICollectionViewCell* cell in [_mainCollectionView visibleCells]) {
-        if (![contentView isDescendantOfView:cell]) continue;
-        NSIndexPath* path = [_mainCollectionView indexPathForCell:cell];
-        [self _confirmDeletionOfCollection:[self collectionAtIndexPath:path] fromView:contentView];
-        return;
-    }
+    for (UICollectionViewCell* cell in [_mainCollectionView visibleCells])
+        if ([contentView isDescendantOfView:cell])
+            [self _confirmDeletionOfCollection:[self collectionAtIndexPath:[_mainCollectionView
+                                                                               indexPathForCell:cell]]
+                                      fromView:contentView];
 }
 
 - (void)_confirmDeletionOfCollection:(PHCollection*)collection fromView:(UIView*)view {
@@ -432,64 +326,15 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     NSString* message =
         [NSString stringWithFormat:@"Are you sure you want to delete “%@”? The photos will not be deleted.",
                                    [collection localizedTitle]];
-    UIAlertController* sheet = [UIAlertController alertControllerWithTitle:title
-                                                                   message:message
-                                                            preferredStyle:UIAlertControllerStyleActionSheet];
-    [sheet addAction:[UIAlertAction actionWithTitle:@"Delete Album"
-                                              style:UIAlertActionStyleDestructive
-                                            handler:^(UIAlertAction*) {
-                                                [self _deleteCollection:collection];
-                                            }]];
-    [sheet addAction:[UIAlertAction actionWithTitle:@"Cancel" style:UIAlertActionStyleCancel handler:nil]];
-    [[sheet popoverPresentationController] setSourceView:view];
-    [[sheet popoverPresentationController] setSourceRect:[view bounds]];
-    [self presentViewController:sheet animated:YES completion:nil];
-}
-
-- (void)_deleteCollection:(PHCollection*)collection {
-    [self _changeLibrary:^{
-        [PHAssetCollectionChangeRequest deleteAssetCollections:@[ collection ]];
-    }];
-}
-
-- (void)_changeLibrary:(void (^)(void))changes {
-    [[PHPhotoLibrary sharedPhotoLibrary] performChanges:changes
-                                      completionHandler:^(BOOL, NSError*) {
-                                          dispatch_async(dispatch_get_main_queue(), ^{
-                                              [self reloadContentView];
-                                          });
-                                      }];
-}
-
-- (void)_addAlbum:(id)sender {
-    UIAlertController* alert = [UIAlertController alertControllerWithTitle:@"New Album"
-                                                                   message:@"Enter a name for this album."
-                                                            preferredStyle:UIAlertControllerStyleAlert];
-    [alert addTextFieldWithConfigurationHandler:^(UITextField* field) {
-        [field setPlaceholder:@"Title"];
-    }];
-    [alert addAction:[UIAlertAction actionWithTitle:@"Cancel" style:UIAlertActionStyleCancel handler:nil]];
-    // Not retained by its own action's handler: the alert is on the screen while the handler runs.
-    __block UIAlertController* shown = alert;
-    [alert addAction:[UIAlertAction
-                         actionWithTitle:@"Save"
-                                   style:UIAlertActionStyleDefault
-                                 handler:^(UIAlertAction*) {
-                                     [self _createAlbumTitled:[[[shown textFields] firstObject] text]];
-                                 }]];
-    [self presentViewController:alert animated:YES completion:nil];
-}
-
-- (void)_createAlbumTitled:(NSString*)title {
-    [self _changeLibrary:^{
-        [PHAssetCollectionChangeRequest creationRequestForAssetCollectionWithTitle:title];
-    }];
-}
-
-- (void)_search:(id)sender {
-    UIViewController* search = [[[UIViewController alloc] init] autorelease];
-    [search setTitle:@"Search"];
-    [[self navigationController] pushViewController:search animated:YES];
+    simulator::confirm(self, view, title, message, @"Delete Album", ^{
+        simulator::changeLibrary(
+            ^{
+                [PHAssetCollectionChangeRequest deleteAssetCollections:@[ collection ]];
+            },
+            ^(BOOL) {
+                [self reloadContentView];
+            });
+    });
 }
 
 @end

@@ -1,5 +1,13 @@
 #import "PhotosUI/PUNavigationController.h"
 
+@implementation UIViewController (PUTabBar)
+
+- (BOOL)pu_wantsTabBarVisible {
+    return YES;
+}
+
+@end
+
 @implementation PUNavigationController
 
 @synthesize _currentToolbarViewController = _currentToolbarViewController;
@@ -13,7 +21,7 @@
     UIViewController* top = [self topViewController];
     [self _setCurrentToolbarViewController:top];
     [[self navigationBar] setNeedsLayout]; // its buttons are the new screen's
-    if (top != nil) [[[self tabBarController] tabBar] setHidden:[top pu_wantsTabBarVisible] ? NO : YES];
+    if (top != nil) [[[self tabBarController] tabBar] setHidden:![top pu_wantsTabBarVisible]];
 }
 
 - (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated {
@@ -21,19 +29,8 @@
     [self _topViewControllerDidChange];
 }
 
-- (void)setViewControllers:(NSArray*)controllers {
-    [super setViewControllers:controllers];
-    [self _topViewControllerDidChange];
-}
-
 - (UIViewController*)popViewControllerAnimated:(BOOL)animated {
     UIViewController* popped = [super popViewControllerAnimated:animated];
-    [self _topViewControllerDidChange];
-    return popped;
-}
-
-- (NSArray*)popToViewController:(UIViewController*)controller animated:(BOOL)animated {
-    NSArray* popped = [super popToViewController:controller animated:animated];
     [self _topViewControllerDidChange];
     return popped;
 }

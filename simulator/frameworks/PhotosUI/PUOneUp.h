@@ -1,21 +1,23 @@
+// The one-up view, which shows one photo or video as large as the screen, and what it knows of it.
 #pragma once
 
 #import "Photos/Photos.h"
 #import "UIKit/UIKit.h"
 
-/// Names the asset that a browser is at.
-@interface PUAssetReference : NSObject {
+/// Keeps the asset that an object of the one-up view stands for.
+@interface PUAssetHolder : NSObject {
     PHAsset* _asset;
 }
 - (instancetype)initWithAsset:(PHAsset*)asset;
 @property (nonatomic, readonly) PHAsset* asset;
 @end
 
+/// Names the asset that a browser is at.
+@interface PUAssetReference : PUAssetHolder
+@end
+
 /// What the browser knows about how one asset is shown.
-@interface PUAssetViewModel : NSObject {
-    PHAsset* _asset;
-}
-- (instancetype)initWithAsset:(PHAsset*)asset;
+@interface PUAssetViewModel : PUAssetHolder
 /// YES for a live photo.
 - (BOOL)wantsIrisBadgeVisible;
 @end
@@ -41,31 +43,23 @@
 @interface PUOneUpSettings : NSObject {
     double _defaultMaximumZoomFactor;
 }
-+ (PUOneUpSettings*)sharedInstance;
-- (void)setDefaultValues;
 @property (nonatomic) double defaultMaximumZoomFactor;
 @end
 
 /// Owns one tile of the one-up view.
-@interface PUTileController : NSObject {
-    PHAsset* _asset;
-}
-- (instancetype)initWithAsset:(PHAsset*)asset;
-- (PHAsset*)asset;
+@interface PUTileController : PUAssetHolder
 @end
 
 @interface PUTileViewController : PUTileController {
-    UIView* _view;
+    UIImageView* _view;
 }
-@property (nonatomic, readonly) UIView* view;
+@property (nonatomic, readonly) UIImageView* view;
 @end
 
 @interface PUImageTileViewController : PUTileViewController
-- (PHAsset*)asset;
 @end
 
 @interface PUVideoTileViewController : PUTileViewController
-- (PHAsset*)asset;
 @end
 
 /// The bars of the one-up view and what their buttons do.
@@ -80,19 +74,14 @@
 - (void)updateBars;
 /// Takes the asset out of the trash.
 - (void)_performRestoreAction;
-- (void)_performTrashAction;
-- (void)_performAddToAlbumAction;
 @end
 
-/// One photo or video, as large as the screen.
 @interface PUOneUpViewController : UIViewController {
     PUBrowsingSession* _browsingSession;
     PUOneUpBarsController* _barsController;
-    PUTileController* _contentTileController;
-    UIImageView* _irisBadge;
+    PUTileViewController* _contentTileController;
 }
 - (instancetype)initWithBrowsingSession:(PUBrowsingSession*)session;
 @property (nonatomic, readonly) PUBrowsingSession* browsingSession;
-@property (nonatomic, readonly) PUOneUpBarsController* barsController;
 - (id)_currentContentTileController;
 @end

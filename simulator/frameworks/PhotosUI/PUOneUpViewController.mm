@@ -1,8 +1,49 @@
 #import "PhotosUI/PUOneUp.h"
 
+#import "PhotosUI/ScreenHelpers.h"
+
+@implementation PUOneUpBarsController
+
+@synthesize browsingSession = _browsingSession;
+
+- (instancetype)initWithBrowsingSession:(PUBrowsingSession*)session
+                         viewController:(UIViewController*)controller {
+    self = [super init];
+    if (!self) return nil;
+    _browsingSession = [session retain];
+    _viewController = controller;
+    return self;
+}
+
+- (void)dealloc {
+    [_browsingSession release];
+    [super dealloc];
+}
+
+- (void)updateBars {
+    if (![_browsingSession isInTrash]) return;
+    UIBarButtonItem* recover = simulator::barButton(@"Recover", self, @selector(_performRestoreAction));
+    [_viewController setToolbarItems:@[ recover ] animated:NO];
+}
+
+- (void)_performRestoreAction {
+    PHAsset* asset = [[[_browsingSession viewModel] currentAssetReference] asset];
+    if (asset == nil) return;
+    UIViewController* controller = _viewController;
+    simulator::changeLibrary(
+        ^{
+            [PHAssetChangeRequest undeleteAssets:@[ asset ]];
+        },
+        ^(BOOL success) {
+            if (success) [[controller navigationController] popViewControllerAnimated:YES];
+        });
+}
+
+@end
+
 @implementation PUOneUpViewController
 
-@synthesize browsingSession = _browsingSession, barsController = _barsController;
+@synthesize browsingSession = _browsingSession;
 
 - (instancetype)initWithBrowsingSession:(PUBrowsingSession*)session {
     self = [super init];
@@ -16,7 +57,6 @@
     [_browsingSession release];
     [_barsController release];
     [_contentTileController release];
-    [_irisBadge release];
     [super dealloc];
 }
 
@@ -31,31 +71,25 @@
 - (id)_currentContentTileController {
     PHAsset* asset = [self _asset];
     if (_contentTileController == nil && asset != nil) {
-        Class tileClass = [asset mediaType] == PHAssetMediaTypeVideo ? [PUVideoTileViewController class]
-                                                                     : [PUImageTileViewController class];
+        const bool isVideo = [asset mediaType] == PHAssetMediaTypeVideo;
+        Class tileClass = isVideo ? [PUVideoTileViewController class] : [PUImageTileViewController class];
         _contentTileController = [[tileClass alloc] initWithAsset:asset];
     }
     return _contentTileController;
 }
 
-- (UIView*)_tileView {
-    return [static_cast<PUTileViewController*>([self _currentContentTileController]) view];
-}
-
 - (void)viewDidLoad {
     [super viewDidLoad];
-    if (UIView* tile = [self _tileView]) [[self view] addSubview:tile];
-    _irisBadge = [[UIImageView alloc] initWithFrame:CGRectMake(8, 72, 28, 28)];
-    [_irisBadge setAccessibilityLabel:@"Live"];
-    [[self view] addSubview:_irisBadge];
+    UIView* tile = [[self _currentContentTileController] view];
+    if (tile != nil) [[self view] addSubview:tile];
     [_barsController updateBars];
 }
 
 - (void)viewWillAppear:(BOOL)animated {
     [super viewWillAppear:animated];
-    PUAssetViewModel* model = [[[PUAssetViewModel alloc] initWithAsset:[self _asset]] autorelease];
-    [_irisBadge setHidden:[model wantsIrisBadgeVisible] ? NO : YES];
-    [self _loadPicture];
+    const CGSize size = [[self view] bounds].size;
+    [[_contentTileController view]
+        setImage:simulator::pictureOf([self _asset], size, PHImageContentModeAspectFit)];
     [[self navigationController] setToolbarHidden:NO];
 }
 
@@ -64,22 +98,9 @@
     [[self navigationController] setToolbarHidden:YES];
 }
 
-- (void)_loadPicture {
-    auto tile = static_cast<UIImageView*>([self _tileView]);
-    PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];
-    [options setSynchronous:YES];
-    [[PHImageManager defaultManager] requestImageForAsset:[self _asset]
-                                               targetSize:[[self view] bounds].size
-                                              contentMode:PHImageContentModeAspectFit
-                                                  options:options
-                                            resultHandler:^(UIImage* image, NSDictionary*) {
-                                                [tile setImage:image];
-                                            }];
-}
-
 - (void)viewWillLayoutSubviews {
     [super viewWillLayoutSubviews];
-    [[self _tileView] setFrame:[[self view] bounds]];
+    [[_contentTileController view] setFrame:[[self view] bounds]];
 }
 
 @end

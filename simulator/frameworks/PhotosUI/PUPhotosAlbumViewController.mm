@@ -24,22 +24,14 @@
 
 - (PHFetchResult*)fetchAssets {
     if (_assetCollection == nil) return nil;
-    PHFetchOptions* options = nil;
-    if (_filterPredicate) {
-        options = [[[PHFetchOptions alloc] init] autorelease];
-        [options setPredicate:_filterPredicate];
-    }
+    PHFetchOptions* options = [[[PHFetchOptions alloc] init] autorelease];
+    [options setPredicate:_filterPredicate];
     return [PHAsset fetchAssetsInAssetCollection:_assetCollection options:options];
 }
 
 - (PHAssetCollection*)editableAlbum {
-    return [_assetCollection canPerformEditOperation:PHCollectionEditOperationRemoveContent]
-               ? _assetCollection
-               : nil;
-}
-
-- (BOOL)showsTrash {
-    return [self isTrashBinViewController];
+    const BOOL isEditable = [_assetCollection canPerformEditOperation:PHCollectionEditOperationRemoveContent];
+    return isEditable ? _assetCollection : nil;
 }
 
 - (BOOL)isTrashBinViewController {
@@ -47,8 +39,7 @@
 }
 
 - (BOOL)shouldShowSectionHeaders {
-    return [_assetCollection assetCollectionSubtype] == PHAssetCollectionSubtypeSmartAlbumUserLibrary ? YES
-                                                                                                      : NO;
+    return [_assetCollection assetCollectionSubtype] == PHAssetCollectionSubtypeSmartAlbumUserLibrary;
 }
 
 @end

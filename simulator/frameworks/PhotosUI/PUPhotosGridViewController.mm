@@ -1,13 +1,13 @@
-#import "PhotosUI/BarButton.h"
 #import "PhotosUI/PUPhotosGrid.h"
 
-#import "Dispatch/Dispatch.h"
-#import "PhotosUI/PUAlbumListViewController.h"
-#import "PhotosUI/PUDeletePhotosActionController.h"
+#import "PhotosUI/PUNavigationController.h"
 #import "PhotosUI/PUOneUp.h"
-#import "PhotosUI/PUPhotosSharingViewController.h"
+#import "PhotosUI/PUPhotoActions.h"
+#import "PhotosUI/ScreenHelpers.h"
 
 #include <objc/runtime.h>
+
+using simulator::barButton;
 
 namespace {
 
@@ -16,17 +16,14 @@ constexpr CGFloat columns = 4;
 constexpr CGFloat gap = 1;
 constexpr NSInteger pictureTag = 1;
 
-NSString* photoCount(NSUInteger count) {
-    return count == 1 ? @"Photo" : [NSString stringWithFormat:@"%lu Photos", count];
-}
-
-UIImageView* pictureOf(UICollectionViewCell* cell) {
-    auto picture = static_cast<UIImageView*>([[cell contentView] viewWithTag:pictureTag]);
-    if (picture) return picture;
-    picture = [[[UIImageView alloc] initWithFrame:[[cell contentView] bounds]] autorelease];
+UIImageView* pictureViewOf(UICollectionViewCell* cell) {
+    UIView* content = [cell contentView];
+    auto picture = static_cast<UIImageView*>([content viewWithTag:pictureTag]);
+    if (picture != nil) return picture;
+    picture = [[[UIImageView alloc] initWithFrame:[content bounds]] autorelease];
     [picture setTag:pictureTag];
     [picture setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
-    [[cell contentView] addSubview:picture];
+    [content addSubview:picture];
     return picture;
 }
 
@@ -34,17 +31,16 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
 
 @implementation PUPhotosGridViewController
 
-@synthesize alwaysHideTabBar = _alwaysHideTabBar, assets = _assets, photoSelectionManager = _selectionManager;
+@synthesize assets = _assets, alwaysHideTabBar = _alwaysHideTabBar;
 
 - (instancetype)init {
-    UICollectionViewFlowLayout* layout = [[[UICollectionViewFlowLayout alloc] init] autorelease];
-    self = [super initWithCollectionViewLayout:layout];
-    if (self) _selectionManager = [[PUPhotoSelectionManager alloc] init];
+    self = [super initWithCollectionViewLayout:[[[UICollectionViewFlowLayout alloc] init] autorelease]];
+    if (self) _selectedAssets = [[NSMutableOrderedSet alloc] init];
     return self;
 }
 
 - (void)dealloc {
-    [_selectionManager release];
+    [_selectedAssets release];
     [_assets release];
     [super dealloc];
 }
@@ -59,7 +55,7 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
     return nil;
 }
 
-- (BOOL)showsTrash {
+- (BOOL)isTrashBinViewController {
     return NO;
 }
 
@@ -68,7 +64,7 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
 }
 
 - (BOOL)pu_wantsTabBarVisible {
-    return [self alwaysHideTabBar] || [self isEditing] ? NO : YES;
+    return ![self alwaysHideTabBar] && ![self isEditing];
 }
 
 - (void)reloadAssets {
@@ -91,7 +87,11 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
 - (void)viewWillAppear:(BOOL)animated {
     [super viewWillAppear:animated];
     [self reloadAssets];
-    [self _updateLayout];
+    const CGFloat side = ([[self collectionView] bounds].size.width - gap * (columns - 1)) / columns;
+    auto layout = static_cast<UICollectionViewFlowLayout*>([self collectionViewLayout]);
+    [layout setItemSize:CGSizeMake(side, side)];
+    [layout setMinimumInteritemSpacing:gap];
+    [layout setMinimumLineSpacing:gap];
     _needsScrollToBottom = [self initiallyScrolledToBottom];
 }
 
@@ -100,21 +100,9 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
     [super viewDidLayoutSubviews];
     if (!_needsScrollToBottom) return;
     _needsScrollToBottom = NO;
-    [self _scrollToBottom];
-}
-
-- (void)_updateLayout {
-    CGFloat side = ([[self collectionView] bounds].size.width - gap * (columns - 1)) / columns;
-    auto layout = static_cast<UICollectionViewFlowLayout*>([self collectionViewLayout]);
-    [layout setItemSize:CGSizeMake(side, side)];
-    [layout setMinimumInteritemSpacing:gap];
-    [layout setMinimumLineSpacing:gap];
-}
-
-- (void)_scrollToBottom {
     UICollectionView* grid = [self collectionView];
     [grid layoutIfNeeded];
-    CGFloat hidden = [grid contentSize].height - [grid bounds].size.height;
+    const CGFloat hidden = [grid contentSize].height - [grid bounds].size.height;
     if (hidden > 0) [grid setContentOffset:CGPointMake(0, hidden) animated:NO];
 }
 
@@ -122,16 +110,15 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
     NSString* title = [self isEditing] ? @"Cancel" : @"Select";
     [[self navigationItem] setRightBarButtonItem:barButton(title, self, @selector(_toggleSelecting:))];
     NSArray* tools = nil;
-    if ([self isEditing] && [self showsTrash])
+    if ([self isEditing] && [self isTrashBinViewController])
         tools = @[ barButton(@"Recover", self, @selector(_removeButtonPressed:)) ];
     else if ([self isEditing])
         tools = @[
-            barButton(@"Share", self, @selector(_shareButtonPressed:)),
             barButton(@"Add To", self, @selector(_addToAlbumButtonPressed:)),
             barButton(@"Delete", self, @selector(_removeButtonPressed:))
         ];
     [self setToolbarItems:tools animated:NO];
-    [[self navigationController] setToolbarHidden:tools == nil ? YES : NO];
+    [[self navigationController] setToolbarHidden:tools == nil];
 }
 
 - (NSInteger)collectionView:(UICollectionView*)collectionView numberOfItemsInSection:(NSInteger)section {
@@ -143,62 +130,57 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
     UICollectionViewCell* cell = [collectionView dequeueReusableCellWithReuseIdentifier:cellIdentifier
                                                                            forIndexPath:path];
     PHAsset* asset = [_assets objectAtIndex:static_cast<NSUInteger>([path item])];
-    UIImageView* picture = pictureOf(cell);
-    PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];
-    [options setSynchronous:YES];
-    [[PHImageManager defaultManager] requestImageForAsset:asset
-                                               targetSize:[picture bounds].size
-                                              contentMode:PHImageContentModeAspectFill
-                                                  options:options
-                                            resultHandler:^(UIImage* image, NSDictionary*) {
-                                                [picture setImage:image];
-                                            }];
-    [picture setAlpha:[_selectionManager isAssetSelected:asset] ? 0.5 : 1];
+    UIImageView* picture = pictureViewOf(cell);
+    [picture setImage:simulator::pictureOf(asset, [picture bounds].size)];
+    [picture setAlpha:[_selectedAssets containsObject:asset] ? 0.5 : 1];
     return cell;
 }
 
-#pragma mark Opening
+#pragma mark Opening and selecting
 
 - (void)collectionView:(UICollectionView*)collectionView didSelectItemAtIndexPath:(NSIndexPath*)path {
     [collectionView deselectItemAtIndexPath:path animated:NO];
-    NSUInteger index = static_cast<NSUInteger>([path item]);
+    PHAsset* asset = [_assets objectAtIndex:static_cast<NSUInteger>([path item])];
     if (![self isEditing]) {
-        [self openAssetAtIndex:index];
+        [self _openAsset:asset];
         return;
     }
-    PHAsset* asset = [_assets objectAtIndex:index];
-    BOOL selected = [_selectionManager isAssetSelected:asset] ? NO : YES;
-    [_selectionManager setSelected:selected forAsset:asset];
-    [pictureOf([collectionView cellForItemAtIndexPath:path]) setAlpha:selected ? 0.5 : 1];
+    const BOOL selected = ![_selectedAssets containsObject:asset];
+    [self setSelected:selected forAsset:asset];
+    [pictureViewOf([collectionView cellForItemAtIndexPath:path]) setAlpha:selected ? 0.5 : 1];
 }
 
-- (void)openAssetAtIndex:(NSUInteger)index {
+- (void)_openAsset:(PHAsset*)asset {
     // The one-up view came with iOS 9.
-    if (!objc_getClass("PUOneUpViewController")) return;
-    PHAsset* asset = [_assets objectAtIndex:index];
-    PUBrowsingSession* session = [[[PUBrowsingSession alloc] initWithAsset:asset
-                                                                   inTrash:[self showsTrash]] autorelease];
+    if (objc_getClass("PUOneUpViewController") == Nil) return;
+    PUBrowsingSession* session =
+        [[[PUBrowsingSession alloc] initWithAsset:asset inTrash:[self isTrashBinViewController]] autorelease];
     PUOneUpViewController* oneUp =
         [[[PUOneUpViewController alloc] initWithBrowsingSession:session] autorelease];
     [[self navigationController] pushViewController:oneUp animated:YES];
 }
 
-#pragma mark Selecting
-
 - (void)_toggleSelecting:(id)sender {
-    [self setEditing:[self isEditing] ? NO : YES animated:YES];
+    [self setEditing:![self isEditing] animated:YES];
 }
 
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated {
     [super setEditing:editing animated:animated];
-    if (!editing) [_selectionManager deselectAllAssets];
+    if (!editing) [_selectedAssets removeAllObjects];
     [self _updateNavigationItem];
-    [[[self tabBarController] tabBar] setHidden:[self pu_wantsTabBarVisible] ? NO : YES];
+    [[[self tabBarController] tabBar] setHidden:![self pu_wantsTabBarVisible]];
     if ([self isViewLoaded]) [[self collectionView] reloadData];
 }
 
 - (id)selectedAssets {
-    return [_selectionManager orderedSelectedAssets];
+    return _selectedAssets;
+}
+
+- (void)setSelected:(BOOL)selected forAsset:(PHAsset*)asset {
+    if (selected)
+        [_selectedAssets addObject:asset];
+    else
+        [_selectedAssets removeObject:asset];
 }
 
 // The selection changes with every tap, so what outlives the tap needs a copy.
@@ -214,102 +196,89 @@ UIImageView* pictureOf(UICollectionViewCell* cell) {
     [self reloadAssets];
 }
 
+- (void)_addToAlbumButtonPressed:(id)sender {
+    PUAlbumListViewController* list = [[[PUAlbumListViewController alloc] init] autorelease];
+    [list setPickedAssets:[self _selectionAsArray]];
+    [list setPickingDelegate:self];
+    UIViewController* navigation =
+        [[[PUNavigationController alloc] initWithRootViewController:list] autorelease];
+    [self presentViewController:navigation animated:YES completion:nil];
+}
+
+- (void)albumListDidFinishPicking:(PUAlbumListViewController*)list {
+    [self dismissViewControllerAnimated:YES completion:nil];
+    [self _endSelecting];
+}
+
 #pragma mark Removing and recovering
 
 - (void)_removeButtonPressed:(id)sender {
-    NSUInteger count = [[self selectedAssets] count];
+    const NSUInteger count = [[self selectedAssets] count];
+    const bool recovers = [self isTrashBinViewController];
     if (count == 0) return;
-    if ([self showsTrash]) {
-        [self _confirm:[@"Recover " stringByAppendingString:photoCount(count)]
-                  from:sender
-               andThen:^{
-                   [self _recoverSelectedAssets];
-               }];
-    } else if ([self editableAlbum]) {
-        [self _confirm:@"Remove from Album"
-                  from:sender
-               andThen:^{
-                   [self _removeSelectedAssetsWithCompletion:nil];
-               }];
-    } else {
+    if (!recovers && [self editableAlbum] == nil) {
         [self _removeSelectedAssetsWithCompletion:nil];
+        return;
     }
-}
-
-- (void)_confirm:(NSString*)title from:(id)sender andThen:(void (^)(void))action {
-    UIAlertController* sheet = [UIAlertController alertControllerWithTitle:nil
-                                                                   message:nil
-                                                            preferredStyle:UIAlertControllerStyleActionSheet];
-    [sheet addAction:[UIAlertAction actionWithTitle:title
-                                              style:UIAlertActionStyleDestructive
-                                            handler:^(UIAlertAction*) {
-                                                action();
-                                            }]];
-    [sheet addAction:[UIAlertAction actionWithTitle:@"Cancel" style:UIAlertActionStyleCancel handler:nil]];
-    [[sheet popoverPresentationController] setSourceView:[self view]];
-    [[sheet popoverPresentationController] setSourceRect:[[self view] bounds]];
-    [self presentViewController:sheet animated:YES completion:nil];
+    NSString* title = @"Remove from Album";
+    if (recovers)
+        title = count == 1 ? @"Recover Photo" : [NSString stringWithFormat:@"Recover %lu Photos", count];
+    simulator::confirm(self, [self view], nil, nil, title, ^{
+        if (recovers)
+            [self _recoverSelectedAssets];
+        else
+            [self _removeSelectedAssetsWithCompletion:nil];
+    });
 }
 
 - (void)_removeSelectedAssetsWithCompletion:(void (^)(BOOL success))completion {
     NSArray* assets = [self _selectionAsArray];
     PHAssetCollection* album = [self editableAlbum];
-    if (album == nil) {
-        [self _deleteAssets:assets completion:completion];
-        return;
+    void (^done)(BOOL) = ^(BOOL success) {
+        [self _endSelecting];
+        if (completion != nil) completion(success);
+    };
+    if (album != nil) {
+        simulator::changeLibrary(
+            ^{
+                [[PHAssetCollectionChangeRequest changeRequestForAssetCollection:album] removeAssets:assets];
+            },
+            done);
+    } else {
+        [[[[PUDeletePhotosActionController alloc] initWithAssets:assets] autorelease]
+            performFromViewController:self
+                           completion:done];
     }
-    [self
-        _changeLibrary:^{
-            [[PHAssetCollectionChangeRequest changeRequestForAssetCollection:album] removeAssets:assets];
-        }
-            completion:completion];
-}
-
-- (void)_deleteAssets:(NSArray*)assets completion:(void (^)(BOOL success))completion {
-    PUDeletePhotosActionController* action =
-        [[[PUDeletePhotosActionController alloc] initWithAssets:assets] autorelease];
-    [action performFromViewController:self
-                           completion:^(BOOL success) {
-                               [self _endSelecting];
-                               if (completion) completion(success);
-                           }];
 }
 
 - (void)_recoverSelectedAssets {
     NSArray* assets = [self _selectionAsArray];
-    [self
-        _changeLibrary:^{
+    simulator::changeLibrary(
+        ^{
             [PHAssetChangeRequest undeleteAssets:assets];
-        }
-            completion:nil];
+        },
+        ^(BOOL) {
+            [self _endSelecting];
+        });
 }
 
-- (void)_changeLibrary:(void (^)(void))changes completion:(void (^)(BOOL success))completion {
-    [[PHPhotoLibrary sharedPhotoLibrary] performChanges:changes
-                                      completionHandler:^(BOOL success, NSError*) {
-                                          dispatch_async(dispatch_get_main_queue(), ^{
-                                              [self _endSelecting];
-                                              if (completion) completion(success);
-                                          });
-                                      }];
+@end
+
+@implementation PUZoomableGridViewController
+
+- (instancetype)init {
+    self = [super init];
+    [self setTitle:@"Moments"];
+    return self;
 }
 
-#pragma mark Sharing and adding
-
-- (void)_shareButtonPressed:(id)sender {
-    PUPhotosSharingViewController* sharing =
-        [[[PUPhotosSharingViewController alloc] initWithAssets:[self _selectionAsArray]] autorelease];
-    PUNavigationController* navigation =
-        [[[PUNavigationController alloc] initWithRootViewController:sharing] autorelease];
-    [self presentViewController:navigation animated:YES completion:nil];
+- (PHFetchResult*)fetchAssets {
+    return [PHAsset fetchAssetsWithOptions:nil];
 }
 
-- (void)_addToAlbumButtonPressed:(id)sender {
-    [PUAlbumListViewController presentPickerForAssets:[self _selectionAsArray]
-                                   fromViewController:self
-                                    completionHandler:^(BOOL) {
-                                        [self _endSelecting];
-                                    }];
+// Its own, as on the device.
+- (void)viewWillAppear:(BOOL)animated {
+    [super viewWillAppear:animated];
 }
 
 @end

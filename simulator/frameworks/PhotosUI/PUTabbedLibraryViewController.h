@@ -13,15 +13,11 @@ typedef NS_ENUM(int, PUContentMode) {
 /// The photo library with its tabs.
 @interface PUTabbedLibraryViewController : UITabBarController {
     NSArray* _excludedContentModes;
-    NSArray* _displayedContentModes;
 }
-/// The content modes (NSNumber) that get no tab; none unless set.
+/// The content modes (NSNumber) that get no tab; nil unless set.
 @property (nonatomic, copy) NSArray* excludedContentModes;
-/// Makes the tabs anew as the excluded content modes say now.
-- (void)updateDisplayedContentModes;
 /// The content modes that have a tab, in their order.
 - (NSArray*)displayedContentModes;
-- (int)selectedContentMode;
 - (void)setSelectedContentMode:(int)mode;
 /// nil when the mode has no tab.
 - (UINavigationController*)navigationControllerForContentMode:(int)mode;

@@ -1,8 +1,6 @@
 #import "PhotosUI/PUTabbedLibraryViewController.h"
 
-#import "PhotosUI/PUAlbumListViewController.h"
 #import "PhotosUI/PUNavigationController.h"
-#import "PhotosUI/PUPhotosGrid.h"
 
 #include "device/releases.h"
 
@@ -25,10 +23,10 @@ constexpr struct {
 };
 
 UIViewController* makeRootController(const char* className, NSString* title) {
-    BOOL hasLibrary = objc_getClass("PHPhotoLibrary") != nil;
-    Class controllerClass = className && hasLibrary ? objc_getClass(className) : nil;
-    UIViewController* controller =
-        [[[controllerClass ? controllerClass : [UIViewController class] alloc] init] autorelease];
+    const bool hasLibrary = objc_getClass("PHPhotoLibrary") != Nil;
+    Class ownClass = className != nullptr && hasLibrary ? objc_getClass(className) : Nil;
+    Class controllerClass = ownClass != Nil ? ownClass : [UIViewController class];
+    UIViewController* controller = [[[controllerClass alloc] init] autorelease];
     if ([[controller title] length] == 0) [controller setTitle:title];
     return controller;
 }
@@ -41,61 +39,52 @@ UIViewController* makeRootController(const char* className, NSString* title) {
 
 - (void)dealloc {
     [_excludedContentModes release];
-    [_displayedContentModes release];
     [super dealloc];
 }
 
 - (void)setExcludedContentModes:(NSArray*)modes {
-    if (modes != _excludedContentModes) {
-        [_excludedContentModes release];
-        _excludedContentModes = [modes copy];
-    }
-    if ([self isViewLoaded]) [self updateDisplayedContentModes];
+    [_excludedContentModes autorelease];
+    _excludedContentModes = [modes copy];
+    [self _makeTabs];
 }
 
 - (void)viewDidLoad {
     [super viewDidLoad];
-    [self updateDisplayedContentModes];
+    [self _makeTabs];
 }
 
-- (void)updateDisplayedContentModes {
+- (void)_makeTabs {
     NSArray* excluded = [self excludedContentModes];
-    NSMutableArray* modes = [NSMutableArray array];
     NSMutableArray* controllers = [NSMutableArray array];
     for (auto tab : tabs) {
-        NSNumber* mode = [NSNumber numberWithInt:tab.mode];
-        if (tab.since > simulator::currentRelease() || [excluded containsObject:mode]) continue;
+        if (tab.since > simulator::currentRelease()) continue;
+        if ([excluded containsObject:[NSNumber numberWithInt:tab.mode]]) continue;
         NSString* title = [NSString stringWithUTF8String:tab.title];
         PUNavigationController* navigation = [[[PUNavigationController alloc]
             initWithRootViewController:makeRootController(tab.controllerClass, title)] autorelease];
-        UITabBarItem* item = [[[UITabBarItem alloc] initWithTitle:title image:nil tag:tab.mode] autorelease];
-        [navigation setTabBarItem:item];
-        [modes addObject:mode];
+        [navigation setTabBarItem:[[[UITabBarItem alloc] initWithTitle:title image:nil
+                                                                   tag:tab.mode] autorelease]];
         [controllers addObject:navigation];
     }
-    [_displayedContentModes release];
-    _displayedContentModes = [modes copy];
     [self setViewControllers:controllers];
 }
 
 - (NSArray*)displayedContentModes {
-    return _displayedContentModes;
-}
-
-- (int)selectedContentMode {
-    NSUInteger index = [self selectedIndex];
-    return index < [_displayedContentModes count] ? [[_displayedContentModes objectAtIndex:index] intValue]
-                                                  : -1;
-}
-
-- (void)setSelectedContentMode:(int)mode {
-    NSUInteger index = [_displayedContentModes indexOfObject:[NSNumber numberWithInt:mode]];
-    if (index != NSNotFound) [self setSelectedIndex:index];
+    NSMutableArray* modes = [NSMutableArray array];
+    for (UIViewController* controller in [self viewControllers])
+        [modes addObject:[NSNumber numberWithInteger:[[controller tabBarItem] tag]]];
+    return modes;
 }
 
 - (UINavigationController*)navigationControllerForContentMode:(int)mode {
-    NSUInteger index = [_displayedContentModes indexOfObject:[NSNumber numberWithInt:mode]];
-    return index == NSNotFound ? nil : [[self viewControllers] objectAtIndex:index];
+    for (UINavigationController* controller in [self viewControllers])
+        if ([[controller tabBarItem] tag] == mode) return controller;
+    return nil;
+}
+
+- (void)setSelectedContentMode:(int)mode {
+    UINavigationController* controller = [self navigationControllerForContentMode:mode];
+    if (controller != nil) [self setSelectedViewController:controller];
 }
 
 - (UINavigationController*)selectedNavigationController {

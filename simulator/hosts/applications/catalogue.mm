@@ -5,130 +5,130 @@
 #include "device/releases.h"
 #include "hosts/applications/bundle_identifiers.h"
 #include "hosts/applications/camera/camera_app.h"
+#include "hosts/applications/common/AlbumPickerViewController.h"
+#include "hosts/applications/common/screen.h"
 #include "hosts/applications/messenger/messenger_app.h"
 #include "hosts/applications/photos/photos_app.h"
-#include "hosts/applications/pickers.h"
 #include "hosts/applications/plain/plain_app.h"
 #include "hosts/applications/settings/settings_app.h"
+#include "hosts/host.h"
 
 #include <objc/runtime.h>
 
 #include <algorithm>
 #include <stdexcept>
 
+@interface FBSystemApp : UIApplication
+@end
+
+@implementation FBSystemApp
+@end
+
+/// The application that owns the home screen; every other one is started by it.
+@interface SpringBoard : FBSystemApp
+@end
+
+@implementation SpringBoard
+
+- (void)applicationDidFinishLaunching:(UIApplication*)application {
+    simulator::showRootViewController([[[UIViewController alloc] init] autorelease]);
+}
+
+@end
+
 namespace simulator {
 
 namespace {
 
-// The classes that some processes have and others have not.
+// The classes that some processes have and others have not, by what their names begin with.
 const struct {
-    std::string_view framework;
-    std::vector<std::string> classes;
+    std::string_view name;
+    std::vector<std::string> prefixes;
 } frameworks[] = {
-    {"PhotosUI",
-     {"PUAlbumListCell",
-      "PUAlbumListCellContentView",
-      "PUAlbumListTableViewCell",
-      "PUAlbumListViewController",
-      "PUAlbumPickerSessionInfo",
-      "PUAssetHidingHelper",
-      "PUAssetReference",
-      "PUAssetViewModel",
-      "PUBrowsingSession",
-      "PUBrowsingViewModel",
-      "PUDeletePhotosActionController",
-      "PUImageTileViewController",
-      "PUNavigationController",
-      "PUOneUpBarsController",
-      "PUOneUpSettings",
-      "PUOneUpViewController",
-      "PUPhotoSelectionManager",
-      "PUPhotosAlbumViewController",
-      "PUPhotosGridViewController",
-      "PUPhotosSharingViewController",
-      "PUStackView",
-      "PUTabbedLibraryViewController",
-      "PUTileController",
-      "PUTileViewController",
-      "PUVideoTileViewController",
-      "PUZoomableGridViewController"}},
-    {"PhotosUICore", {"PXPhotoKitCollectionsDataSourceManager", "PXRoundedCornerOverlayView", "PXUIButton"}},
-    {"CameraUI",
-     {"CAMBottomBar", "CAMCaptureController", "CAMCaptureEngine", "CAMImageWell",
-      "CAMViewfinderViewController", "CAMCameraApplication"}},
-    {"CustomDraw", {"CustomDrawButton"}},
+    {"PhotosUI", {"PU"}},
+    {"PhotosUICore", {"PX"}},
+    {"CameraUI", {"CAM"}},
+    {"CustomDraw", {"CustomDraw"}},
     {"MobileSlideShow", {"PLPhotosApplication", "PhotosApplication"}},
     {"SpringBoard", {"FBSystemApp", "SpringBoard"}},
-    {"Preferences",
-     {"PSListController", "PSListItemsController", "PSRootController", "PSSpecifier", "PSSwitchTableCell",
-      "PSTableCell", "PSViewController"}},
-    {"PreferencesApp", {"PSUIPrefsListController", "PreferencesAppController"}},
-    {"Messenger",
-     {"MNMontageAlbumCell", "MNMontageAlbumListViewController", "MNPhotosAlbumDataSource",
-      "MessengerApplication"}},
-    {"WhatsApp", {"WAAlbumPickerViewController", "WhatsAppApplication"}},
-    {"imgur", {"IMGAlbumPickerViewController", "ImgurApplication"}},
-    {"PlainApplication", {"PlainApplication", "PlainViewController"}},
+    {"Preferences", {"PS"}},
+    {"PreferencesApp", {"PreferencesAppController"}},
+    {"Messenger", {"MN"}},
 };
 
-const std::vector<CatalogueEntry>& entries() {
-    static const auto& all = *new std::vector<CatalogueEntry>{
-        {bundle::springBoard, "SpringBoard", {"SpringBoard"}, nullptr, true},
-        {bundle::photos,
-         "PhotosApplication",
-         {"MobileSlideShow", "PhotosUI", "PhotosUICore"},
-         photos::addVerbs},
-        {bundle::camera, "CAMCameraApplication", {"CameraUI", "PhotosUI", "PhotosUICore"}, camera::addVerbs},
-        {bundle::settings, "PreferencesAppController", {"Preferences", "PreferencesApp"}, settings::addVerbs},
-        {bundle::messenger, "MessengerApplication", {"Messenger"}, messenger::addVerbs},
-        {bundle::whatsApp, "WhatsAppApplication", {"WhatsApp"}, pickers::addVerbs},
-        {bundle::imgur, "ImgurApplication", {"imgur"}, pickers::addVerbs},
-        {bundle::plain,
-         "PlainApplication",
-         {"PlainApplication", "PhotosUI", "PhotosUICore"},
-         plain::addVerbs},
-        {bundle::jolly,
-         "PlainApplication",
-         {"PlainApplication", "PhotosUI", "PhotosUICore"},
-         plain::addVerbs},
+struct Entry {
+    std::string_view bundleIdentifier;
+    std::vector<std::string> frameworks;            // beside those that every application has
+    const char* applicationClass = "UIApplication"; // shows the first screen when no class is named for it
+    const char* firstScreen = nullptr;              // the class of a controller
+    const char* titleInBar = nullptr;               // in a navigation controller, when there is a title
+    void (*addVerbs)() = nullptr;                   // what a user can do in it
+    bool worksInRootFolder = false;
+};
+
+// clang-format off
+const std::vector<Entry>& entries() {
+    static const auto& all = *new std::vector<Entry>{
+        {.bundleIdentifier = bundle::springBoard, .frameworks = {"SpringBoard"},
+         .applicationClass = "SpringBoard", .worksInRootFolder = true},
+        {.bundleIdentifier = bundle::photos, .frameworks = {"MobileSlideShow", "PhotosUI", "PhotosUICore"},
+         .applicationClass = "PhotosApplication", .addVerbs = photos::addVerbs},
+        {.bundleIdentifier = bundle::camera, .frameworks = {"CameraUI", "PhotosUI", "PhotosUICore"},
+         .firstScreen = "CAMViewfinderViewController", .addVerbs = camera::addVerbs},
+        {.bundleIdentifier = bundle::settings, .frameworks = {"Preferences", "PreferencesApp"},
+         .applicationClass = "PreferencesAppController", .addVerbs = settings::addVerbs},
+        {.bundleIdentifier = bundle::messenger, .frameworks = {"Messenger"},
+         .firstScreen = "MNMontageAlbumListViewController", .titleInBar = "Albums", .addVerbs = messenger::addVerbs},
+        {.bundleIdentifier = bundle::whatsApp, .frameworks = {"WhatsApp"},
+         .firstScreen = "WAAlbumPickerViewController", .titleInBar = "Photos", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); }},
+        {.bundleIdentifier = bundle::imgur, .frameworks = {"imgur"},
+         .firstScreen = "IMGAlbumPickerViewController", .titleInBar = "Upload", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); }},
+        {.bundleIdentifier = bundle::plain, .frameworks = {"PhotosUI", "PhotosUICore"},
+         .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs},
+        {.bundleIdentifier = bundle::jolly, .frameworks = {"PhotosUI", "PhotosUICore"},
+         .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs},
     };
     return all;
 }
+// clang-format on
 
-void start(const CatalogueEntry& entry) {
-    if (entry.addVerbs) entry.addVerbs();
+void start(const Entry& entry) {
+    if (entry.addVerbs != nullptr) entry.addVerbs();
     [UIApplication startApplicationOfClass:objc_getClass(entry.applicationClass)];
+    if (entry.firstScreen == nullptr) return;
+    UIViewController* screen = [[[objc_getClass(entry.firstScreen) alloc] init] autorelease];
+    if (entry.titleInBar != nullptr) {
+        [screen setTitle:string(entry.titleInBar)];
+        screen = [[[UINavigationController alloc] initWithRootViewController:screen] autorelease];
+    }
+    showRootViewController(screen);
 }
 
-void registerEntry(const CatalogueEntry& entry, std::vector<std::string> loaded) {
+void registerEntry(const Entry& entry, std::vector<std::string> loaded) {
     registerApplication(entry.bundleIdentifier, {.start = [&entry] { start(entry); },
                                                  .frameworks = std::move(loaded),
                                                  .worksInRootFolder = entry.worksInRootFolder});
 }
 
-const CatalogueEntry& entryFor(std::string_view bundleIdentifier) {
-    const auto entry = std::ranges::find(entries(), bundleIdentifier, &CatalogueEntry::bundleIdentifier);
+const Entry& entryFor(std::string_view bundleIdentifier) {
+    const auto entry = std::ranges::find(entries(), bundleIdentifier, &Entry::bundleIdentifier);
     if (entry == entries().end())
         throw std::invalid_argument("no application " + std::string(bundleIdentifier) + " is known");
     return *entry;
 }
 
-// Known as soon as the simulator is in the process: whoever starts a host names it by its bundle identifier
-// only.
 [[maybe_unused]] const bool registered = [] {
     for (const auto& framework : frameworks)
-        registerFramework(framework.framework, framework.classes);
-    for (const CatalogueEntry& entry : entries())
+        registerFramework(framework.name, framework.prefixes);
+    for (const Entry& entry : entries())
         registerEntry(entry, entry.frameworks);
     return true;
 }();
 
 } // namespace
 
-std::span<const CatalogueEntry> catalogue() { return entries(); }
-
 void setHasFramework(std::string_view bundleIdentifier, std::string_view framework, bool has) {
-    const CatalogueEntry& entry = entryFor(bundleIdentifier);
+    const Entry& entry = entryFor(bundleIdentifier);
     std::vector<std::string> loaded = entry.frameworks;
     std::erase(loaded, framework);
     if (has) loaded.emplace_back(framework);

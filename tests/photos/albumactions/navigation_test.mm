@@ -1,6 +1,6 @@
 // The frame around the screens: the bar's extra button and its sheets, returning all photos, the sharing
 // screen, and leaving for the background.
-#include "hosts/applications/common/launch.h"
+#import "PhotosUI/ScreenHelpers.h"
 #include "support/hiding_log.h"
 #include "support/photos_fixture.h"
 #include "support/replacing.h"

@@ -46,7 +46,7 @@ class PickedPhotos : public PhotosTest {
         return [[PHAsset fetchAssetsWithOptions:options] objectAtIndex:number];
     }
     static void pick(PUPhotosGridViewController* grid, std::size_t number) {
-        [[grid photoSelectionManager] setSelected:YES forAsset:asset(number)];
+        [grid setSelected:YES forAsset:asset(number)];
     }
     static Texts logOfMove(PUAlbumListViewController* list) {
         takeHidingLog();

@@ -1,7 +1,7 @@
 /// What a user does in the Camera. Main thread; the running application must be it.
 #pragma once
 
-#import "hosts/applications/camera/CameraApplication.h"
+#import "CameraUI/CameraUI.h"
 
 namespace simulator::camera {
 
@@ -23,7 +23,7 @@ void addDrawButton();
 /// Waits until the capture thread has done everything that was handed to it before.
 void waitForCaptureThread();
 
-/// {"do": "takePhoto"}, "failCapture", "takeVideo", "addDrawButton".
+/// {"do": "takePhoto"}.
 void addVerbs();
 
 } // namespace simulator::camera

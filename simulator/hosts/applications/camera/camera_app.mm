@@ -6,31 +6,21 @@
 #include "hosts/applications/catalogue.h"
 #include "hosts/applications/common/screen.h"
 #include "hosts/host.h"
-#include "photolibrary/library.h"
 
 #include <atomic>
 #include <memory>
 
 namespace simulator::camera {
 
-namespace {
-
-std::size_t assetCount() { return sharedPhotoLibrary().assets({.includeHidden = true}).size(); }
-
-void waitForNewAsset(std::size_t before) {
-    waitUntil([before] { return assetCount() > before; }, "the capture in the photo library");
-}
-
-} // namespace
-
 CAMViewfinderViewController* viewfinder() {
-    return [static_cast<CAMCameraApplication*>([UIApplication sharedApplication]) viewfinderViewController];
+    // Looked for once, on the main thread: afterwards any thread may ask.
+    static auto* const found = static_cast<CAMViewfinderViewController*>(
+        [[[UIApplication sharedApplication] keyWindow] rootViewController]);
+    return found;
 }
 
 void takePhoto() {
-    const std::size_t before = assetCount();
-    tap([[viewfinder() bottomBar] shutterButton]);
-    waitForNewAsset(before);
+    waitForNewPhoto([] { tap([[viewfinder() bottomBar] shutterButton]); });
     waitForCaptureThread();
 }
 
@@ -41,17 +31,13 @@ void failCapture() {
 }
 
 void takeVideo() {
-    const std::size_t before = assetCount();
-    [[viewfinder() captureController] captureVideo];
-    waitForNewAsset(before);
+    waitForNewPhoto([] { [[viewfinder() captureController] captureVideo]; });
 }
 
 void addDrawButton() {
     loadFramework("CustomDraw");
     CAMBottomBar* bar = [viewfinder() bottomBar];
-    CustomDrawButton* button =
-        [[[CustomDrawButton alloc] initWithFrame:CGRectMake(60, 30, 28, 28)] autorelease];
-    [bar addSubview:button];
+    [bar addSubview:[[[CustomDrawButton alloc] initWithFrame:CGRectMake(60, 30, 28, 28)] autorelease]];
     [bar setNeedsLayout];
     layOutScreen();
 }
@@ -62,19 +48,6 @@ void waitForCaptureThread() {
     waitUntil([&] { return done->load(); }, "the capture thread");
 }
 
-void addVerbs() {
-    const struct {
-        const char* name;
-        void (*action)();
-    } verbs[] = {{"takePhoto", takePhoto},
-                 {"failCapture", failCapture},
-                 {"takeVideo", takeVideo},
-                 {"addDrawButton", addDrawButton}};
-    for (auto verb : verbs)
-        registerVerb(verb.name, [action = verb.action](const nlohmann::json&) {
-            action();
-            return nlohmann::json::object();
-        });
-}
+void addVerbs() { registerVerb("takePhoto", takePhoto); }
 
 } // namespace simulator::camera

@@ -1,6 +1,6 @@
 #import "hosts/applications/common/AlbumPickerViewController.h"
 
-#import "PhotosUI/PURootCollections.h"
+#import "PhotosUI/ScreenHelpers.h"
 
 #include "hosts/applications/common/screen.h"
 
@@ -8,33 +8,11 @@ namespace {
 
 NSString* const cellIdentifier = @"album";
 
-nlohmann::json identifiersOf(PHFetchResult* assets) {
-    auto identifiers = nlohmann::json::array();
-    for (PHAsset* asset in assets)
-        identifiers.push_back(simulator::text([asset localIdentifier]));
-    return identifiers;
-}
-
-const char* kindOf(PHAssetCollection* collection) {
-    switch ([collection assetCollectionType]) {
-    case PHAssetCollectionTypeAlbum:
-        return "album";
-    case PHAssetCollectionTypeSmartAlbum:
-        return "smartAlbum";
-    case PHAssetCollectionTypeMoment:
-        return "moment";
-    }
-    return "unknown";
-}
-
-nlohmann::json titleOf(PHCollection* collection) {
-    NSString* title = [collection localizedTitle];
-    return title ? nlohmann::json(simulator::text(title)) : nlohmann::json();
-}
-
 } // namespace
 
 @implementation AlbumPickerViewController
+
+@synthesize collections = _collections, table = _table;
 
 - (void)dealloc {
     [_table setDataSource:nil];
@@ -45,19 +23,17 @@ nlohmann::json titleOf(PHCollection* collection) {
 }
 
 - (NSArray*)fetchCollections {
-    return PURootCollections();
+    return simulator::rootCollections();
 }
 
-- (PHFetchResult*)fetchAssetsInCollection:(PHAssetCollection*)collection {
-    return [PHAsset fetchAssetsInAssetCollection:collection options:nil];
+- (PHFetchOptions*)fetchOptions {
+    return nil;
 }
 
-- (NSArray*)collections {
-    return _collections;
-}
-
-- (UITableView*)table {
-    return _table;
+- (PHFetchResult*)fetchAssetsInCollection:(PHCollection*)collection {
+    if (![collection isKindOfClass:[PHAssetCollection class]]) return nil;
+    return [PHAsset fetchAssetsInAssetCollection:static_cast<PHAssetCollection*>(collection)
+                                         options:[self fetchOptions]];
 }
 
 - (void)viewDidLoad {
@@ -92,43 +68,77 @@ nlohmann::json titleOf(PHCollection* collection) {
                                        reuseIdentifier:cellIdentifier] autorelease];
     PHCollection* collection = [_collections objectAtIndex:static_cast<NSUInteger>([path row])];
     [[cell textLabel] setText:[collection localizedTitle]];
-    NSString* count = nil;
-    if ([collection isKindOfClass:[PHAssetCollection class]])
-        count =
-            [NSString stringWithFormat:@"%lu", [[self fetchAssetsInCollection:static_cast<PHAssetCollection*>(
-                                                                                  collection)] count]];
-    [[cell detailTextLabel] setText:count];
+    PHFetchResult* assets = [self fetchAssetsInCollection:collection];
+    if (assets != nil) [[cell detailTextLabel] setText:[NSString stringWithFormat:@"%lu", [assets count]]];
     return cell;
+}
+
+@end
+
+@implementation WAAlbumPickerViewController
+
+- (NSArray*)fetchCollections {
+    return simulator::albumsByType();
+}
+
+@end
+
+@implementation IMGAlbumPickerViewController
+
+- (NSArray*)fetchCollections {
+    NSArray* cameraRoll = simulator::albumsOfType(PHAssetCollectionTypeSmartAlbum,
+                                                  PHAssetCollectionSubtypeSmartAlbumUserLibrary);
+    return [cameraRoll arrayByAddingObjectsFromArray:simulator::albumsOfType(PHAssetCollectionTypeAlbum)];
+}
+
+- (PHFetchOptions*)fetchOptions {
+    PHFetchOptions* newestFirst = [[[PHFetchOptions alloc] init] autorelease];
+    [newestFirst setSortDescriptors:@[ [NSSortDescriptor sortDescriptorWithKey:@"creationDate"
+                                                                     ascending:NO] ]];
+    return newestFirst;
 }
 
 @end
 
 namespace simulator {
 
-nlohmann::json describeCollections(NSArray* collections,
-                                   PHFetchResult* (^assets)(PHAssetCollection* collection)) {
-    auto rows = nlohmann::json::array();
-    for (PHCollection* collection in collections) {
-        nlohmann::json row{{"title", titleOf(collection)}};
-        if ([collection isKindOfClass:[PHAssetCollection class]]) {
-            auto album = static_cast<PHAssetCollection*>(collection);
-            row["kind"] = kindOf(album);
-            row["photos"] = identifiersOf(assets(album));
-        } else {
-            row["kind"] = "folder";
-            row["collections"] =
-                describeCollections([static_cast<PHCollectionList*>(collection) collections], assets);
-        }
-        rows.push_back(std::move(row));
+NSArray* albumsOfType(PHAssetCollectionType type, PHAssetCollectionSubtype subtype) {
+    NSMutableArray* albums = [NSMutableArray array];
+    for (PHAssetCollection* album in [PHAssetCollection fetchAssetCollectionsWithType:type
+                                                                              subtype:subtype
+                                                                              options:nil])
+        [albums addObject:album];
+    return albums;
+}
+
+NSArray* albumsByType() {
+    return [albumsOfType(PHAssetCollectionTypeSmartAlbum)
+        arrayByAddingObjectsFromArray:albumsOfType(PHAssetCollectionTypeAlbum)];
+}
+
+nlohmann::json describeCollection(PHCollection* collection, PHFetchResult* assets) {
+    NSString* title = [collection localizedTitle];
+    nlohmann::json row{{"title", title != nil ? nlohmann::json(text(title)) : nlohmann::json()}};
+    if (![collection isKindOfClass:[PHAssetCollection class]]) {
+        row["kind"] = "folder";
+        return row;
     }
-    return rows;
+    auto album = static_cast<PHAssetCollection*>(collection);
+    row["kind"] = [album assetCollectionType] == PHAssetCollectionTypeAlbum ? "album" : "smartAlbum";
+    row["photos"] = nlohmann::json::array();
+    for (PHAsset* asset in assets)
+        row["photos"].push_back(text([asset localIdentifier]));
+    return row;
 }
 
 nlohmann::json describePicker(AlbumPickerViewController* picker) {
     [picker reload];
-    return describeCollections([picker collections], ^(PHAssetCollection* collection) {
-        return [picker fetchAssetsInCollection:collection];
-    });
+    auto rows = nlohmann::json::array();
+    for (PHCollection* collection in [picker collections])
+        rows.push_back(describeCollection(collection, [picker fetchAssetsInCollection:collection]));
+    return rows;
 }
+
+nlohmann::json describePickerOnScreen() { return describePicker(onScreen<AlbumPickerViewController>()); }
 
 } // namespace simulator

@@ -1,6 +1,7 @@
 #include "hosts/applications/common/screen.h"
 
-#include <stdexcept>
+#include "hosts/host.h"
+#include "photolibrary/library.h"
 
 namespace simulator {
 
@@ -15,7 +16,15 @@ UIViewController* childInFront(UIViewController* controller) {
     return nil;
 }
 
+std::size_t photoCount() { return sharedPhotoLibrary().assets({.includeHidden = true}).size(); }
+
 } // namespace
+
+void showRootViewController(UIViewController* controller) {
+    UIWindow* window = [[[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]] autorelease];
+    [window setRootViewController:controller];
+    [window makeKeyAndVisible];
+}
 
 UIViewController* controllerOnScreen() {
     UIViewController* controller = [[[UIApplication sharedApplication] keyWindow] rootViewController];
@@ -25,14 +34,13 @@ UIViewController* controllerOnScreen() {
 }
 
 void waitUntil(const std::function<bool()>& condition, const std::string& what, double timeout) {
-    NSDate* end = [NSDate dateWithTimeIntervalSinceNow:timeout];
-    while (!condition()) {
-        if ([end timeIntervalSinceNow] < 0) throw std::runtime_error("gave up waiting for " + what);
-        @autoreleasepool {
-            [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode
-                                     beforeDate:[NSDate dateWithTimeIntervalSinceNow:0.01]];
-        }
-    }
+    if (!Host::runUntil(condition, timeout)) throw std::runtime_error("gave up waiting for " + what);
+}
+
+void waitForNewPhoto(const std::function<void()>& action) {
+    const std::size_t before = photoCount();
+    action();
+    waitUntil([&] { return photoCount() > before; }, "a new photo in the library");
 }
 
 void layOutScreen() { [[[UIApplication sharedApplication] keyWindow] layoutIfNeeded]; }

@@ -3,12 +3,23 @@
 #pragma once
 
 #import "PhotosUI/PhotosUI.h"
-#import "hosts/applications/photos/PhotosApplication.h"
 
 #include <nlohmann/json.hpp>
 
 #include <string>
 #include <vector>
+
+/// What Photos shares with the older applications that show photos.
+@interface PLPhotosApplication : UIApplication
+- (void)applicationDidEnterBackground:(UIApplication*)application;
+@end
+
+/// The application object of Photos: the tabbed library in a window.
+@interface PhotosApplication : PLPhotosApplication {
+    PUTabbedLibraryViewController* _tabbedLibraryViewController;
+}
+@property (nonatomic, readonly) PUTabbedLibraryViewController* _tabbedLibraryViewController;
+@end
 
 namespace simulator::photos {
 
@@ -58,13 +69,9 @@ PUAlbumListViewController* addSelectionToAlbum();
 /// Taps a photo outside selection mode and gives the screen with it.
 PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t place);
 
-/// Taps Share in the grid on the screen and gives the screen with the selected photos.
-PUPhotosSharingViewController* shareSelection();
-
-/// Verbs beside those that every application has: "albums", "openAlbum" {"title"}, "tapAlbum" {"title"},
-/// "editAlbums"
-/// {"editing"}, "deleteAlbum" {"title"}, "openMoments", "selectPhotos" {"places"}, "addSelection",
-/// "removeSelection", "openPhoto" {"place"}, "shareSelection".
+/// "albums" lists the albums at the top of the Albums tab; "openAlbum" {"title"}, "tapAlbum" {"title"},
+/// "deleteAlbum" {"title"}, "hasInAlbumCell" and "tapInAlbumCell" {"title", "tag"}, "openMoments", and
+/// "selectPhotos" {"places"} in the grid on the screen.
 void addVerbs();
 
 } // namespace simulator::photos

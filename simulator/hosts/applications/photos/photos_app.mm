@@ -3,20 +3,36 @@
 #import "UIKit/ViewTree.h"
 
 #include "hosts/applications/common/screen.h"
+#include "hosts/host.h"
 
-#include <stdexcept>
+@implementation PLPhotosApplication
+
+// Nothing that Photos has open needs to be closed.
+- (void)applicationDidEnterBackground:(UIApplication*)application {
+}
+
+@end
+
+@implementation PhotosApplication
+
+@synthesize _tabbedLibraryViewController = _tabbedLibraryViewController;
+
+- (void)dealloc {
+    [_tabbedLibraryViewController release];
+    [super dealloc];
+}
+
+- (void)applicationDidFinishLaunching:(UIApplication*)application {
+    _tabbedLibraryViewController = [[PUTabbedLibraryViewController alloc] init];
+    simulator::showRootViewController(_tabbedLibraryViewController);
+    [_tabbedLibraryViewController setSelectedContentMode:PUContentModeAlbums];
+}
+
+@end
 
 namespace simulator::photos {
 
 namespace {
-
-template <typename Controller> Controller* onScreenAs(const char* what) {
-    UIViewController* front = controllerOnScreen();
-    if (![front isKindOfClass:[Controller class]])
-        throw std::runtime_error(std::string(what) + " is not on the screen, but " +
-                                 text([[front class] description]));
-    return static_cast<Controller*>(front);
-}
 
 NSIndexPath* pathAt(std::size_t place) {
     return [NSIndexPath indexPathForItem:static_cast<NSInteger>(place) inSection:0];
@@ -47,7 +63,7 @@ PhotosApplication* application() {
 }
 
 PUTabbedLibraryViewController* library() {
-    return static_cast<PUTabbedLibraryViewController*>([application() rootViewController]);
+    return static_cast<PUTabbedLibraryViewController*>([[application() keyWindow] rootViewController]);
 }
 
 void selectTab(PUContentMode mode) {
@@ -66,7 +82,7 @@ PUAlbumListViewController* openAlbumList() {
     return list;
 }
 
-PUAlbumListViewController* albumList() { return onScreenAs<PUAlbumListViewController>("an album list"); }
+PUAlbumListViewController* albumList() { return onScreen<PUAlbumListViewController>(); }
 
 nlohmann::json describeAlbums(PUAlbumListViewController* list) {
     auto rows = nlohmann::json::array();
@@ -109,7 +125,7 @@ void tapAlbum(const std::string& title) {
 PUPhotosAlbumViewController* openAlbum(const std::string& title) {
     openAlbumList();
     tapAlbum(title);
-    return onScreenAs<PUPhotosAlbumViewController>("the album's contents");
+    return onScreen<PUPhotosAlbumViewController>();
 }
 
 void setEditing(bool editing) {
@@ -129,7 +145,7 @@ PUZoomableGridViewController* openMoments() {
     selectTab(PUContentModePhotos);
     [[library() selectedNavigationController] popToRootViewControllerAnimated:NO];
     layOutScreen();
-    return onScreenAs<PUZoomableGridViewController>("the grid of moments");
+    return onScreen<PUZoomableGridViewController>();
 }
 
 void selectPhotos(PUPhotosGridViewController* grid, const std::vector<std::size_t>& places) {
@@ -146,13 +162,29 @@ PUAlbumListViewController* addSelectionToAlbum() {
 
 PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t place) {
     tapItem([grid collectionView], pathAt(place));
-    return onScreenAs<PUOneUpViewController>("the one-up view");
+    return onScreen<PUOneUpViewController>();
 }
 
-PUPhotosSharingViewController* shareSelection() {
-    tapBarButton("Share");
-    layOutScreen();
-    return onScreenAs<PUPhotosSharingViewController>("the sharing screen");
+void addVerbs() {
+    using nlohmann::json;
+    const auto inAlbumCell = [](const json& request) -> UIView* {
+        PUAlbumListCell* cell = albumCell(albumList(), request.at("title"));
+        return [cell viewWithTag:request.at("tag").get<NSInteger>()];
+    };
+    registerVerb("albums", [] { return describeAlbums(openAlbumList()); });
+    registerVerb("openAlbum", [](const json& request) { openAlbum(request.at("title")); });
+    registerVerb("tapAlbum", [](const json& request) { tapAlbum(request.at("title")); });
+    registerVerb("deleteAlbum", [](const json& request) { tapDeleteAlbum(request.at("title")); });
+    registerVerb("hasInAlbumCell",
+                 [=](const json& request) -> json { return {{"has", inAlbumCell(request) != nil}}; });
+    registerVerb("tapInAlbumCell", [=](const json& request) {
+        if (inAlbumCell(request) == nil) throw std::runtime_error("no such view: " + request.dump());
+        tap(inAlbumCell(request));
+    });
+    registerVerb("openMoments", [] { openMoments(); });
+    registerVerb("selectPhotos", [](const json& request) {
+        selectPhotos(onScreen<PUPhotosGridViewController>(), request.at("places"));
+    });
 }
 
 } // namespace simulator::photos

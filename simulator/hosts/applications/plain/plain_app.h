@@ -1,18 +1,15 @@
-/// What a user can do in the plain application. Main thread; the running application must be it.
+/// What a user can do in the plain application, which has an image with a share button and a photo picker:
+/// all that an ordinary application has to do with photos. Main thread; the running application must be it.
 #pragma once
 
-#import "hosts/applications/plain/PlainApplication.h"
+#import "UIKit/UIKit.h"
 
 #include <nlohmann/json.hpp>
 
-#include <string>
+@interface PlainViewController : UIViewController
+@end
 
 namespace simulator::plain {
-
-PlainViewController* screen();
-
-/// Opens the share sheet with the picture.
-UIActivityViewController* share();
 
 /// Opens the share sheet and saves the picture into the photo library; waits until it is there. Throws
 /// std::runtime_error when it does not arrive.
@@ -21,7 +18,7 @@ void saveImage();
 /// Opens the photo picker and lists what it shows, see describePicker().
 nlohmann::json listPicker();
 
-/// {"do": "share"}, {"do": "saveImage"}, {"do": "listPicker"}.
+/// {"do": "saveImage"}, {"do": "listPicker"}.
 void addVerbs();
 
 } // namespace simulator::plain

@@ -1,60 +1,70 @@
 #include "hosts/applications/plain/plain_app.h"
 
+#import "PhotosUI/ScreenHelpers.h"
 #import "UIKit/ViewTree.h"
+#import "hosts/applications/common/AlbumPickerViewController.h"
 
 #include "hosts/applications/common/screen.h"
-#include "hosts/applications/pickers.h"
 #include "hosts/host.h"
-#include "photolibrary/library.h"
 
-#include <stdexcept>
+@implementation PlainViewController
+
+- (void)viewDidLoad {
+    [super viewDidLoad];
+    UIImage* picture = [UIImage imageWithPixelSize:CGSizeMake(160, 120) seed:7];
+    [[self view] addSubview:[[[UIImageView alloc] initWithImage:picture] autorelease]];
+    [[self navigationItem] setRightBarButtonItems:@[
+        simulator::barButton(@"Share", self, @selector(share:)),
+        simulator::barButton(@"Pick", self, @selector(pickPhoto:))
+    ]];
+}
+
+- (void)share:(id)sender {
+    UIImage* picture = [static_cast<UIImageView*>([[[self view] subviews] firstObject]) image];
+    UIActivityViewController* sheet =
+        [[[UIActivityViewController alloc] initWithActivityItems:@[ picture ]
+                                           applicationActivities:nil] autorelease];
+    [[sheet popoverPresentationController] setBarButtonItem:sender];
+    [self presentViewController:sheet animated:YES completion:nil];
+}
+
+- (void)pickPhoto:(id)sender {
+    UIViewController* picker = [[[AlbumPickerViewController alloc] init] autorelease];
+    [picker setTitle:@"Photos"];
+    [[self navigationController] pushViewController:picker animated:YES];
+}
+
+@end
 
 namespace simulator::plain {
 
 namespace {
 
-UINavigationController* navigation() {
-    return static_cast<UINavigationController*>(
-        [[[UIApplication sharedApplication] keyWindow] rootViewController]);
+// The first screen has both buttons.
+void tapOnFirstScreen(const char* button) {
+    UIViewController* root = [[[UIApplication sharedApplication] keyWindow] rootViewController];
+    [static_cast<UINavigationController*>(root) popToRootViewControllerAnimated:NO];
+    tapBarButton(button);
 }
 
 } // namespace
 
-PlainViewController* screen() { return [[navigation() viewControllers] firstObject]; }
-
-UIActivityViewController* share() {
-    [navigation() popToRootViewControllerAnimated:NO];
-    tapBarButton("Share");
-    UIViewController* sheet = [screen() presentedViewController];
-    if (![sheet isKindOfClass:[UIActivityViewController class]])
-        throw std::runtime_error("the share sheet did not open");
-    return static_cast<UIActivityViewController*>(sheet);
-}
-
 void saveImage() {
-    const std::size_t before = sharedPhotoLibrary().assets({.includeHidden = true}).size();
-    if (![share() chooseActivityWithTitle:@"Save Image"])
-        throw std::runtime_error("the share sheet does not offer to save the image");
-    waitUntil([&] { return sharedPhotoLibrary().assets({.includeHidden = true}).size() > before; },
-              "the picture in the photo library");
+    waitForNewPhoto([] {
+        tapOnFirstScreen("Share");
+        if (![onScreen<UIActivityViewController>() chooseActivityWithTitle:@"Save Image"])
+            throw std::runtime_error("the share sheet does not offer to save the image");
+    });
 }
 
 nlohmann::json listPicker() {
-    [navigation() popToRootViewControllerAnimated:NO];
-    tapBarButton("Pick");
-    return pickers::list();
+    tapOnFirstScreen("Pick");
+    return describePickerOnScreen();
 }
 
 void addVerbs() {
-    registerVerb("share", [](const nlohmann::json&) {
-        share();
-        return nlohmann::json::object();
-    });
-    registerVerb("saveImage", [](const nlohmann::json&) {
-        saveImage();
-        return nlohmann::json::object();
-    });
-    registerVerb("listPicker", [](const nlohmann::json&) { return listPicker(); });
+    registerVerb("saveImage", saveImage);
+    registerVerb("listPicker", listPicker);
 }
 
 } // namespace simulator::plain

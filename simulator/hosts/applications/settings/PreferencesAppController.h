@@ -15,7 +15,6 @@
 @interface PreferencesAppController : UIApplication {
     PSRootController* _rootController;
     PSUIPrefsListController* _rootListController;
-    UIWindow* _window;
 }
 @property (nonatomic, readonly) PSRootController* rootController;
 @property (nonatomic, readonly) PSUIPrefsListController* rootListController;

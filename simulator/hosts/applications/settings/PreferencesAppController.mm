@@ -1,6 +1,6 @@
 #import "hosts/applications/settings/PreferencesAppController.h"
 
-#include "hosts/applications/common/launch.h"
+#include "hosts/applications/common/screen.h"
 
 namespace {
 
@@ -63,7 +63,6 @@ NSArray* rowsOfInstalledTools() {
 - (void)dealloc {
     [_rootController release];
     [_rootListController release];
-    [_window release];
     [super dealloc];
 }
 
@@ -71,7 +70,7 @@ NSArray* rowsOfInstalledTools() {
     _rootListController = [[PSUIPrefsListController alloc] init];
     [_rootListController setTitle:@"Settings"];
     _rootController = [[PSRootController alloc] initWithRootViewController:_rootListController];
-    _window = simulator::showRootViewController(_rootController);
+    simulator::showRootViewController(_rootController);
 }
 
 @end

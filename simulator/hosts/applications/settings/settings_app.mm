@@ -74,17 +74,11 @@ void tapRow(const std::string& label) {
 }
 
 void addVerbs() {
-    registerVerb("listPicker", [](const json&) { return listWallpapers(); });
-    const auto registerAction = [](const char* name, void (*perform)(const json&)) {
-        registerVerb(name, [perform](const json& request) {
-            perform(request);
-            return json::object();
-        });
-    };
-    registerAction("openEntry", [](const json& request) { openEntry(request.at("label")); });
-    registerAction("setControl",
-                   [](const json& request) { setControl(request.at("label"), request.at("value")); });
-    registerAction("tapRow", [](const json& request) { tapRow(request.at("label")); });
+    registerVerb("listPicker", listWallpapers);
+    registerVerb("openEntry", [](const json& request) { openEntry(request.at("label")); });
+    registerVerb("setControl",
+                 [](const json& request) { setControl(request.at("label"), request.at("value")); });
+    registerVerb("tapRow", [](const json& request) { tapRow(request.at("label")); });
 }
 
 } // namespace simulator::settings

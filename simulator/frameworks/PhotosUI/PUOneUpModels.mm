@@ -1,10 +1,6 @@
 #import "PhotosUI/PUOneUp.h"
 
-namespace {
-constexpr NSUInteger livePhoto = 1 << 3;
-}
-
-@implementation PUAssetReference
+@implementation PUAssetHolder
 
 @synthesize asset = _asset;
 
@@ -21,21 +17,14 @@ constexpr NSUInteger livePhoto = 1 << 3;
 
 @end
 
+@implementation PUAssetReference
+@end
+
 @implementation PUAssetViewModel
 
-- (instancetype)initWithAsset:(PHAsset*)asset {
-    self = [super init];
-    if (self) _asset = [asset retain];
-    return self;
-}
-
-- (void)dealloc {
-    [_asset release];
-    [super dealloc];
-}
-
 - (BOOL)wantsIrisBadgeVisible {
-    return ([_asset mediaSubtypes] & livePhoto) != 0 ? YES : NO;
+    constexpr NSUInteger livePhoto = 1 << 3;
+    return ([_asset mediaSubtypes] & livePhoto) != 0;
 }
 
 @end
@@ -69,4 +58,39 @@ constexpr NSUInteger livePhoto = 1 << 3;
     [super dealloc];
 }
 
+@end
+
+@implementation PUOneUpSettings
+
+@synthesize defaultMaximumZoomFactor = _defaultMaximumZoomFactor;
+
+- (instancetype)init {
+    self = [super init];
+    [self setDefaultMaximumZoomFactor:2.5];
+    return self;
+}
+
+@end
+
+@implementation PUTileController
+@end
+
+@implementation PUTileViewController
+
+- (void)dealloc {
+    [_view release];
+    [super dealloc];
+}
+
+- (UIImageView*)view {
+    if (_view == nil) _view = [[UIImageView alloc] initWithFrame:CGRectZero];
+    return _view;
+}
+
+@end
+
+@implementation PUImageTileViewController
+@end
+
+@implementation PUVideoTileViewController
 @end

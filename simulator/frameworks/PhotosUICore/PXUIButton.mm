@@ -1,4 +1,0 @@
-#import "PhotosUICore/PhotosUICore.h"
-
-@implementation PXUIButton
-@end
