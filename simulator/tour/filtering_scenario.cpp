@@ -8,60 +8,49 @@ namespace {
 
 using nlohmann::json;
 
-struct Reader {
+constexpr struct {
     const char* bundleIdentifier;
     const char* name;
+    const char* verb; // lists the albums
+} readers[] = {
+    {bundle::photos, "Photos", "albums"},         {bundle::plain, "plain application", "listPicker"},
+    {bundle::settings, "Settings", "listPicker"}, {bundle::messenger, "Messenger", "listPicker"},
+    {bundle::whatsApp, "WhatsApp", "listPicker"}, {bundle::imgur, "imgur", "listPicker"},
 };
-
-constexpr Reader readers[] = {
-    {bundle::photos, "Photos"},       {bundle::plain, "plain application"}, {bundle::settings, "Settings"},
-    {bundle::messenger, "Messenger"}, {bundle::whatsApp, "WhatsApp"},       {bundle::imgur, "imgur"},
-};
-
-json listedBy(HostProcess& application, const char* bundleIdentifier) {
-    if (bundleIdentifier == std::string(bundle::photos)) return application.call("albums");
-    const json answer = application.call("listPicker");
-    return answer.is_object() && answer.contains("composer") ? answer.at("composer") : answer;
-}
-
-const json* row(const json& list, const char* title) {
-    for (const json& each : list)
-        if (each.is_object() && each.value("title", json()) == title) return &each;
-    return nullptr;
-}
 
 // How many photos the application shows of an album: "-" when it does not list it.
 std::string photosShown(const json& list, const char* title) {
-    const json* album = row(list, title);
-    if (album == nullptr) return "-";
-    if (album->contains("photos")) return std::to_string(album->at("photos").size());
-    return album->value("subtitle", "listed");
+    for (const json& album : list) {
+        if (!album.is_object() || album.value("title", json()) != title) continue;
+        if (album.contains("photos")) return std::to_string(album.at("photos").size());
+        return album.value("subtitle", "listed");
+    }
+    return "-";
 }
 
-void printTable(Stage& stage) {
-    std::printf("    %-20s %14s %14s %14s\n", "photos shown of", "locked album", "switched off",
-                "moved photos");
-    for (const Reader& reader : readers) {
-        const json list = listedBy(stage.application(reader.bundleIdentifier), reader.bundleIdentifier);
-        std::printf("    %-20s %14s %14s %14s\n", reader.name, photosShown(list, "Holidays").c_str(),
-                    photosShown(list, "Work").c_str(), photosShown(list, "Family").c_str());
-        stage.stop(reader.bundleIdentifier);
-    }
+void printRow(const std::string& name, const std::string& locked, const std::string& off,
+              const std::string& moved) {
+    std::printf("    %-20s %14s %14s %14s\n", name.c_str(), locked.c_str(), off.c_str(), moved.c_str());
     std::fflush(stdout);
 }
 
 void compareOn(Stage& stage, Release release) {
     stage.device().changeConditions([&](Conditions& conditions) { conditions.release = release; });
     stage.tell("iOS " + std::string(releaseName(release)) + ":");
-    printTable(stage);
+    printRow("photos shown of", "locked album", "switched off", "moved photos");
+    for (const auto& reader : readers) {
+        const json list = stage.application(reader.bundleIdentifier).call(reader.verb);
+        printRow(reader.name, photosShown(list, "Holidays"), photosShown(list, "Work"),
+                 photosShown(list, "Family"));
+        stage.stop(reader.bundleIdentifier);
+    }
 }
 
 } // namespace
 
 void compareWhatApplicationsSee(Stage& stage) {
     stage.tell("\"Holidays\" is locked, \"Work\" switched off, and the photos of \"Family\" are moved");
-    stage.device().writePropertyList("/var/mobile/Library/rollkeeper/lockedAlbums.plist",
-                                     json::array({"Holidays"}));
+    stage.lockAlbum("Holidays");
     stage.writePreferences({{"albumNameWork", false}});
     for (const Asset& asset : stage.photos().assetsIn(stage.photos().albumTitled("Family").value()))
         stage.photos().setHidden(asset.identifier, true);
@@ -70,7 +59,7 @@ void compareWhatApplicationsSee(Stage& stage) {
     compareOn(stage, Release::ios11_4);
     const json list = stage.application(bundle::plain).call("listPicker");
     stage.check("on 11.4 the plain application does not list the album that is switched off",
-                [&] { return row(list, "Work") == nullptr; });
+                [&] { return photosShown(list, "Work") == "-"; });
     stage.check("and finds the moved photos in their album",
                 [&] { return photosShown(list, "Family") == "4"; });
 }

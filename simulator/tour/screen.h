@@ -1,42 +1,46 @@
-// Finding things on an application's screen by what a person sees there.
+// An application's screen: finding things by what a person sees there, and touching them.
 #pragma once
 
 #include "hosts/client.h"
 
-#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace simulator::tour {
 
-// The view's JSON and the steps that lead to it from the key window.
-struct FoundView {
-    nlohmann::json view;
-    nlohmann::json path;
-};
-
-class PhotosScreen {
+class Screen {
   public:
-    explicit PhotosScreen(HostProcess& photos) : m_photos(photos) {}
+    explicit Screen(HostProcess& host) : m_host(host) {}
 
-    // The cell of an album: what lies below its content view.
-    std::optional<FoundView> albumCell(const std::string& title);
-    // A view with the tag inside the album's cell.
-    std::optional<FoundView> inAlbumCell(const std::string& title, int tag);
-    void tapInAlbumCell(const std::string& title, int tag);
-
-    // The alert that waits for an answer: its title, or "" without one.
+    // Whether a view of that class, or with exactly that text, is on the screen.
+    bool shows(std::string_view classOrText);
+    // The title of the alert that waits for an answer, "" without one.
     std::string alertTitle();
-    std::string alertMessage();
     // The texts of the status banners; one may still be fading while the next one shows.
     std::vector<std::string> banners();
-    bool showsBanner(const std::string& text);
+    // Of the album's cell in the list on the screen.
+    bool hasInAlbumCell(const char* title, int tag) {
+        return m_host.call({{"do", "hasInAlbumCell"}, {"title", title}, {"tag", tag}}).at("has");
+    }
+    void tapInAlbumCell(const char* title, int tag) {
+        m_host.call({{"do", "tapInAlbumCell"}, {"title", title}, {"tag", tag}});
+    }
 
-    void answer(const std::string& action);
-    void type(const std::string& text);
+    void tap(int tag) { act("tap", "tag", tag); }
+    void tapAlbum(const char* title) { act("tapAlbum", "title", title); }   // in the list on the screen
+    void openAlbum(const char* title) { act("openAlbum", "title", title); } // from the Albums tab
+    void selectPhotos(const std::vector<std::size_t>& places) { act("selectPhotos", "places", places); }
+    void pressButton(const char* title) { act("barButton", "title", title); }
+    void answer(const char* action) { act("alertAction", "title", action); }
+    void type(const char* text) { act("type", "text", text); }
 
   private:
-    HostProcess& m_photos;
+    void act(const char* verb, const char* name, const nlohmann::json& value) {
+        m_host.call({{"do", verb}, {name, value}});
+    }
+
+    HostProcess& m_host;
 };
 
 } // namespace simulator::tour

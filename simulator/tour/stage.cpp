@@ -52,6 +52,19 @@ void Stage::writePreferences(const nlohmann::json& preferences) {
     m_device.writePropertyList(preferencesFile, preferences);
 }
 
+void Stage::changePreferences(HostProcess& teller, const nlohmann::json& preferences) {
+    writePreferences(preferences);
+    teller.call({{"do", "postNotification"}, {"name", "com.nrv.rollkeeperprefs/reloadPrefs"}});
+}
+
+void Stage::lockAlbum(const char* title) {
+    m_device.writePropertyList(lockedAlbumsFile, nlohmann::json::array({title}));
+}
+
+bool Stage::fileHolds(const char* path, const nlohmann::json& array) const {
+    return m_device.exists(path) && m_device.readPropertyList(path) == array;
+}
+
 void Stage::tell(const std::string& text) {
     std::printf("    %s\n", text.c_str());
     std::fflush(stdout);

@@ -16,6 +16,8 @@
 
 namespace simulator::tour {
 
+inline constexpr const char* lockedAlbumsFile = "/var/mobile/Library/rollkeeper/lockedAlbums.plist";
+
 // Something did not happen as it should.
 struct TourFailure : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -45,6 +47,10 @@ class Stage {
     void stop(const std::string& bundleIdentifier);
 
     void writePreferences(const nlohmann::json& preferences);
+    // Writes them and has the application tell all others.
+    void changePreferences(HostProcess& teller, const nlohmann::json& preferences);
+    void lockAlbum(const char* title);
+    bool fileHolds(const char* path, const nlohmann::json& array) const;
 
     // "  text": what a person does or sees.
     void tell(const std::string& text);
