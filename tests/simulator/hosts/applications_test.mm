@@ -1,88 +1,63 @@
-// Every application starts, and each has its own classes only.
-#import "UIKit/UIKit.h"
-#import "UIKit/ViewTree.h"
+// Every application starts in a process of its own, shows its first screen and does what it is there for.
+#include "support/library_fixture.h"
 
-#include "device/exceptions.h"
-#include "hosts/applications/catalogue.h"
-#include "simulator/hosts/hosts_test.h"
-
-#include <objc/runtime.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
-#include <set>
 
 namespace simulator::test {
 namespace {
 
-class EveryApplication : public HostsTest, public testing::WithParamInterface<CatalogueEntry> {};
+using nlohmann::json;
 
-std::string nameOf(const testing::TestParamInfo<CatalogueEntry>& info) {
-    std::string name(info.param.bundleIdentifier);
-    std::ranges::replace(name, '.', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Catalogue, EveryApplication, testing::ValuesIn(catalogue()), nameOf);
-
-TEST_P(EveryApplication, shows_its_first_screen) {
-    start(std::string(GetParam().bundleIdentifier));
-    UIApplication* application = [UIApplication sharedApplication];
-    EXPECT_STREQ(class_getName([application class]), GetParam().applicationClass);
-    ASSERT_TRUE([[application keyWindow] rootViewController] != nil);
-    EXPECT_FALSE(viewTreeAsJson().at("keyWindow").at("subviews").empty());
-}
-
-const struct {
-    const char* className;
-    std::set<std::string_view> applications;
-} presence[] = {
-    {"PUAlbumListViewController", {bundle::photos, bundle::camera, bundle::plain, bundle::jolly}},
-    {"PUAssetHidingHelper", {bundle::photos, bundle::camera, bundle::plain, bundle::jolly}},
-    {"PXUIButton", {bundle::photos, bundle::camera, bundle::plain, bundle::jolly}},
-    {"PhotosApplication", {bundle::photos}},
-    {"CAMBottomBar", {bundle::camera}},
-    {"CAMCaptureEngine", {bundle::camera}},
-    {"CustomDrawButton", {}},
-    {"SpringBoard", {bundle::springBoard}},
-    {"PreferencesAppController", {bundle::settings}},
-    {"MNPhotosAlbumDataSource", {bundle::messenger}},
-    {"MNMontageAlbumListViewController", {bundle::messenger}},
+struct ApplicationCase {
+    const char* bundleIdentifier;
+    const char* controller; // of the first screen
+    json action;
+    std::size_t photosAfterwards; // in the library
+    std::size_t albumPhotos = 0;  // that the action's answer lists of "Holidays", which has three
 };
 
-TEST_P(EveryApplication, has_no_class_of_another) {
-    start(std::string(GetParam().bundleIdentifier));
-    for (const auto& each : presence)
-        EXPECT_EQ(objc_getClass(each.className) != Nil,
-                  each.applications.contains(GetParam().bundleIdentifier))
-            << each.className;
+class Applications : public LibraryTest, public testing::WithParamInterface<ApplicationCase> {};
+
+std::size_t photosOfHolidays(const json& answer) {
+    const auto row = std::ranges::find_if(answer, [](const json& each) {
+        return each.is_object() && each.value("title", json()) == "Holidays";
+    });
+    return row == answer.end() || !row->contains("photos") ? 0 : row->at("photos").size();
 }
 
-// No class with a prefix of the photo, camera or preference frameworks may be forgotten in the list of
-// frameworks.
-TEST_F(HostsTest, springboard_has_no_class_of_the_frameworks_that_it_does_not_load) {
-    start(bundle::springBoard);
-    std::vector<Class> classes(static_cast<std::size_t>(objc_getClassList(nullptr, 0)));
-    objc_getClassList(classes.data(), static_cast<int>(classes.size()));
-    int seen = 0;
-    for (Class each : classes) {
-        const std::string name = class_getName(each);
-        const bool claimed =
-            std::ranges::any_of(std::initializer_list<const char*>{"PU", "PX", "CAM", "MN", "PS", "PL"},
-                                [&](const char* prefix) { return name.starts_with(prefix); });
-        if (!claimed) continue;
-        ++seen;
-        EXPECT_TRUE(objc_getClass(name.c_str()) == Nil) << name;
-    }
-    EXPECT_GT(seen, 30);
+TEST_P(Applications, show_their_first_screen_and_do_what_they_are_for) {
+    HostProcess process = startProcess(GetParam().bundleIdentifier, false);
+    EXPECT_THAT(process.call("viewTree").at("keyWindow").dump(), testing::HasSubstr(GetParam().controller));
+    EXPECT_EQ(photosOfHolidays(process.call(GetParam().action)), GetParam().albumPhotos);
+    EXPECT_EQ(library().visibleAssets().size(), GetParam().photosAfterwards);
+    EXPECT_THROW(process.call("dance"), std::runtime_error);
+    process.stop();
 }
 
-TEST_F(HostsTest, an_application_may_be_without_a_framework_that_it_usually_has) {
-    setHasFramework(bundle::plain, "PhotosUI", false);
-    start(bundle::plain);
-    EXPECT_TRUE(objc_getClass("PUAssetHidingHelper") == Nil);
-    EXPECT_EQ(standardExceptionOf([] { setHasFramework("no.such.application", "PhotosUI", true); }),
-              "no application no.such.application is known");
-}
+const json ready = {{"do", "ready"}};
+const json listPicker = {{"do", "listPicker"}};
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Applications,
+    testing::Values(ApplicationCase{host::springBoard, "UIViewController", ready, 10},
+                    ApplicationCase{host::photos,
+                                    "PUAlbumListViewController",
+                                    {{"do", "openAlbum"}, {"title", "Pets"}},
+                                    10},
+                    ApplicationCase{host::camera, "CAMViewfinderViewController", {{"do", "takePhoto"}}, 11},
+                    ApplicationCase{host::settings, "PSUIPrefsListController", listPicker, 10, 3},
+                    ApplicationCase{host::messenger, "MNMontageAlbumListViewController", listPicker, 10, 3},
+                    ApplicationCase{host::whatsApp, "WAAlbumPickerViewController", listPicker, 10, 3},
+                    ApplicationCase{host::imgur, "IMGAlbumPickerViewController", listPicker, 10, 3},
+                    ApplicationCase{host::plain, "PlainViewController", listPicker, 10, 3},
+                    ApplicationCase{host::jolly, "PlainViewController", {{"do", "saveImage"}}, 11}),
+    [](const auto& info) {
+        std::string name = info.param.bundleIdentifier;
+        std::ranges::replace(name, '.', '_');
+        return name;
+    });
 
 } // namespace
 } // namespace simulator::test
