@@ -101,7 +101,6 @@ const struct {
      "bplist00" + std::string(32 - 26, '\0') + "\x08\x08" + std::string(7, '\x7F') + std::string(17, '\x7F')},
     {"array as root", propertyList("<array><string>skipDelete</string></array>")},
     {"no root", propertyList("")},
-    {"mixed up elements", propertyList("<dict><true/><key>skipDelete</dict>")},
 };
 
 class PreferenceFile : public SettingsTest {
@@ -229,7 +228,6 @@ TEST_F(SettingsTest, integer_keys_follow_their_rules) {
         {{{"layoutFontSize", -5}}, "14 14 blur opens after Touch ID"},
         {{{"layoutFontSize", 0}, {"layoutShowTitle", false}}, "0 14 blur opens after Touch ID"},
         {{{"layoutFontSize", 0}, {"layoutShowSubtitle", false}}, "14 0 blur opens after Touch ID"},
-        {{{"layoutFontSize", 20}, {"layoutShowTitle", false}}, "0 20 blur opens after Touch ID"},
         {{{"layoutFontSize", 0}, {"layoutShowTitle", false}, {"layoutShowSubtitle", false}},
          "0 0 blur opens after Touch ID"},
         // The two switches count as they are now, not as they were.
