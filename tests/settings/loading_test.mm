@@ -171,8 +171,8 @@ TEST_F(SettingsTest, a_saved_picture_stays_visible_unless_told_otherwise) {
     plain::saveImage();
     tapAlertAction("Pets");
     settle();
-    EXPECT_EQ(numbersIn("Pets"), (std::vector<std::size_t>{10}));
-    EXPECT_FALSE(isHidden(10));
+    EXPECT_EQ(numbersIn("Pets"), Numbers{10});
+    EXPECT_EQ(hiddenNumbers(), Numbers());
 }
 
 // Album visibility.
