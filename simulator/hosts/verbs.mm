@@ -8,7 +8,10 @@
 #include "hosts/host.h"
 #include "loader/loader.h"
 
-#include <cstdlib>
+#import "UIKit/UIKit.h"
+#import "UIKit/ViewTree.h"
+
+#include <stdexcept>
 
 namespace simulator {
 namespace {
@@ -28,14 +31,14 @@ json toJson(const Installation& installation) {
     };
 }
 
-json hooks(const json&) {
+json hooks() {
     json list = json::array();
     for (const Installation& installation : installationLog())
         list.push_back(toJson(installation));
     return {{"hooks", list}};
 }
 
-json ready(const json&) {
+json ready() {
     return {{"release", releaseName(currentRelease())},
             {"coreFoundationVersion", kCFCoreFoundationVersionNumber}};
 }
@@ -45,11 +48,10 @@ json advanceClock(const json& request) {
     return {{"now", clock().now()}};
 }
 
-json postNotification(const json& request) {
+void postNotification(const json& request) {
     NSString* name = objectFromJson(request.at("name"));
     CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(),
                                          reinterpret_cast<CFStringRef>(name), nullptr, nullptr, true);
-    return json::object();
 }
 
 json sendMessage(const json& request) {
@@ -60,12 +62,34 @@ json sendMessage(const json& request) {
     return {{"sent", [centre sendMessageName:objectFromJson(request.at("name")) userInfo:userInfo] != NO}};
 }
 
+// The view with the "tag", or at the "path" of indices that leads to it from the key window.
+UIView* namedView(const json& request) {
+    UIView* view = [[UIApplication sharedApplication] keyWindow];
+    if (request.contains("tag")) {
+        view = [view viewWithTag:request["tag"].get<NSInteger>()];
+    } else {
+        for (const std::size_t index : request.at("path").get<std::vector<std::size_t>>())
+            view = index < [[view subviews] count] ? [[view subviews] objectAtIndex:index] : nil;
+    }
+    if (view == nil) throw std::invalid_argument("no such view: " + request.dump());
+    return view;
+}
+
+std::string text(const json& request, const char* key) { return request.at(key).get<std::string>(); }
+
 __attribute__((constructor)) void registerVerbs() {
     registerVerb("ready", ready);
     registerVerb("hooks", hooks);
     registerVerb("advanceClock", advanceClock);
     registerVerb("postNotification", postNotification);
     registerVerb("sendMessage", sendMessage);
+    registerVerb("viewTree", viewTreeAsJson);
+    registerVerb("screenshot", [] { return json{{"svg", screenshotAsSvg()}}; });
+    registerVerb("tap", [](const json& request) { tap(namedView(request)); });
+    registerVerb("barButton", [](const json& request) { tapBarButton(text(request, "title")); });
+    registerVerb("alertAction", [](const json& request) { tapAlertAction(text(request, "title")); });
+    registerVerb("type", [](const json& request) { typeText(0, text(request, "text")); });
+    registerVerb("enterBackground", [] { [[UIApplication sharedApplication] enterBackground]; });
 }
 
 } // namespace

@@ -1,12 +1,10 @@
-#import "UIKit/Screenshot.h"
-
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
+#import "UIKit/internal/Casts.h"
 #import "UIKit/internal/ImagePixels.h"
 #import "UIKit/internal/LayoutQueue.h"
 #import "UIKit/internal/Strings.h"
 #import "UIKit/internal/Text.h"
-#import "UIKit/internal/ViewState.h"
 #include "UIKit/model/SvgCanvas.h"
 
 #include <vector>
@@ -24,6 +22,7 @@ constexpr SvgColor green = {0.3, 0.85, 0.39, 1};
 constexpr SvgColor barColor = {0.97, 0.97, 0.97, 1};
 constexpr SvgColor lineColor = {0.78, 0.78, 0.8, 1};
 constexpr SvgColor dimming = {0, 0, 0, 0.4};
+constexpr SvgColor blurColor = {0.1, 0.1, 0.1, 0.8};
 constexpr CGFloat leastVisibleAlpha = 0.01;
 
 SvgColor asSvg(UIColor* color) {
@@ -32,19 +31,12 @@ SvgColor asSvg(UIColor* color) {
     return result;
 }
 
-CGRect inset(CGRect rect, CGFloat side) { return CGRectInset(rect, side, 0); }
-
 void drawPicture(SvgCanvas& canvas, CGRect rect, UIImage* image) {
-    if (image) canvas.picture(rect, [image bitmap].png());
-}
-
-void drawImageView(SvgCanvas& canvas, UIView* view) {
-    drawPicture(canvas, [view bounds], [static_cast<UIImageView*>(view) image]);
+    if (image != nil) canvas.picture(rect, [image bitmap].png());
 }
 
 // The lines stand one below the other in the vertical middle; text of one line is cut off, not wrapped.
-void drawLabel(SvgCanvas& canvas, UIView* view) {
-    auto* label = static_cast<UILabel*>(view);
+void drawLabel(SvgCanvas& canvas, UILabel* label) {
     const CGRect bounds = [label bounds];
     NSArray* lines = [label numberOfLines] == 1 ? [NSArray arrayWithObjects:[label text], nil]
                                                 : linesOfText([label text], [label font], bounds.size.width);
@@ -60,88 +52,62 @@ void drawLabel(SvgCanvas& canvas, UIView* view) {
     }
 }
 
+bool isEmpty(UITextField* field) { return [[field text] length] == 0; }
+
 std::string shownText(UITextField* field) {
-    if ([[field text] length] == 0) return toStd([field placeholder]);
+    if (isEmpty(field)) return toStd([field placeholder]);
     return [field isSecureTextEntry] ? std::string([[field text] length], '*') : toStd([field text]);
 }
 
-SvgColor textColor(UITextField* field) {
-    return [[field text] length] == 0 ? gray : asSvg([field textColor]);
-}
-
-void drawTextField(SvgCanvas& canvas, UIView* view) {
-    auto* field = static_cast<UITextField*>(view);
+void drawTextField(SvgCanvas& canvas, UITextField* field) {
     canvas.line([field bounds], shownText(field), {
-        .size = [[field font] pointSize], .color = textColor(field),
-        .alignment = static_cast<int>([field textAlignment])
+        .size = [[field font] pointSize], .color = isEmpty(field) ? gray : asSvg([field textColor])
     });
 }
 
-void drawButton(SvgCanvas& canvas, UIView* view) {
-    drawPicture(canvas, [view bounds], [static_cast<UIButton*>(view) currentBackgroundImage]);
-}
-
-void drawSwitch(SvgCanvas& canvas, UIView* view) {
-    const CGRect bounds = [view bounds];
-    const bool isOn = [static_cast<UISwitch*>(view) isOn];
-    canvas.rectangle(bounds, isOn ? green : lineColor, bounds.size.height / 2);
+void drawSwitch(SvgCanvas& canvas, UISwitch* control) {
+    const CGRect bounds = [control bounds];
+    canvas.rectangle(bounds, [control isOn] ? green : lineColor, bounds.size.height / 2);
     const CGFloat side = bounds.size.height - 4;
-    canvas.rectangle(CGRectMake(isOn ? bounds.size.width - side - 2 : 2, 2, side, side), white, side / 2);
+    canvas.rectangle(CGRectMake([control isOn] ? bounds.size.width - side - 2 : 2, 2, side, side), white,
+                     side / 2);
 }
 
-void drawIndicator(SvgCanvas& canvas, UIView* view) {
-    canvas.rectangle([view bounds], { 0, 0, 0, 0 }, [view bounds].size.width / 2, gray);
-}
-
-void drawEffect(SvgCanvas& canvas, UIView* view) {
-    UIVisualEffect* effect = [static_cast<UIVisualEffectView*>(view) effect];
-    const bool isDark = [effect isKindOfClass:[UIBlurEffect class]] &&
-                        [static_cast<UIBlurEffect*>(effect) style] == UIBlurEffectStyleDark;
-    canvas.rectangle([view bounds], isDark ? SvgColor{0.1, 0.1, 0.1, 0.8} : SvgColor{0.95, 0.95, 0.95, 0.8},
-                     [[view layer] cornerRadius]);
-}
-
-void drawTableCell(SvgCanvas& canvas, UIView* view) {
-    const CGRect bounds = [view bounds];
+void drawTableCell(SvgCanvas& canvas, UITableViewCell* cell) {
+    const CGRect bounds = [cell bounds];
     canvas.rectangle(CGRectMake(0, bounds.size.height - 1, bounds.size.width, 1), lineColor);
-    if ([static_cast<UITableViewCell*>(view) accessoryType] == UITableViewCellAccessoryDisclosureIndicator)
-        canvas.line(inset(bounds, 12), ">", {.color = lineColor, .alignment = 2});
+    if ([cell accessoryType] == UITableViewCellAccessoryDisclosureIndicator)
+        canvas.line(CGRectInset(bounds, 12, 0), ">", {.color = lineColor, .alignment = 2});
 }
 
 // Buttons from the left edge on, or towards the right edge.
 void drawItems(SvgCanvas& canvas, CGRect bar, NSArray* items, bool fromTheRight) {
     CGFloat x = fromTheRight ? CGRectGetMaxX(bar) - 10 : bar.origin.x + 10;
     for (UIBarButtonItem* item in items) {
-        NSString* title = [item title] ? [item title] : @"o"; // something to see for a picture
+        NSString* title = [item title];
         const CGFloat width = [title sizeWithFont:[UIFont systemFontOfSize:17]].width;
         const CGRect rect = CGRectMake(fromTheRight ? x - width : x, bar.origin.y, width, bar.size.height);
-        canvas.line(rect, toStd(title), {.color = [item isEnabled] ? blue : gray, .alignment = 1});
+        canvas.line(rect, toStd(title), {.color = blue, .alignment = 1});
         x += fromTheRight ? -width - 16 : width + 16;
     }
 }
 
-void drawNavigationBar(SvgCanvas& canvas, UIView* view) {
-    auto* bar = static_cast<UINavigationBar*>(view);
+void drawNavigationBar(SvgCanvas& canvas, UINavigationBar* bar) {
     const CGRect bounds = [bar bounds];
     canvas.rectangle(CGRectMake(0, -20, bounds.size.width, bounds.size.height + 20), barColor, 0, lineColor);
     UINavigationItem* item = [bar topItem];
     canvas.line(bounds, toStd([item title]), {.color = black, .alignment = 1, .bold = true});
     NSArray* left = [item leftBarButtonItems];
-    if (!left && [bar backItem]) {
-        NSString* back = [[bar backItem] title] ? [[bar backItem] title] : @"Back";
-        canvas.line(inset(bounds, 10), "< " + toStd(back), {.color = blue});
+    const NSUInteger depth = [[bar items] count];
+    if (left == nil && depth > 1) {
+        UINavigationItem* back = [[bar items] objectAtIndex:depth - 2];
+        canvas.line(CGRectInset(bounds, 10, 0), "< " + toStd([back title]), {.color = blue});
     }
     drawItems(canvas, bounds, left, false);
     drawItems(canvas, bounds, [item rightBarButtonItems], true);
 }
 
-void drawToolbar(SvgCanvas& canvas, UIView* view) {
-    canvas.rectangle([view bounds], barColor, 0, lineColor);
-    drawItems(canvas, [view bounds], [static_cast<UIToolbar*>(view) items], false);
-}
-
-void drawTabBar(SvgCanvas& canvas, UIView* view) {
-    auto* bar = static_cast<UITabBar*>(view);
+void drawTabBar(SvgCanvas& canvas, UITabBar* bar) {
     const CGRect bounds = [bar bounds];
     canvas.rectangle(bounds, barColor, 0, lineColor);
     const CGFloat width = bounds.size.width / static_cast<CGFloat>(MAX([[bar items] count], 1U));
@@ -153,27 +119,24 @@ void drawTabBar(SvgCanvas& canvas, UIView* view) {
     }
 }
 
-struct Drawer {
-    Class viewClass;
-    void (*draw)(SvgCanvas& canvas, UIView* view);
-};
-
-// What each class draws of itself; all that fit count.
-const std::vector<Drawer>& drawers() {
-    static const std::vector<Drawer> all = {
-        {[UIImageView class], drawImageView},
-        {[UILabel class], drawLabel},
-        {[UITextField class], drawTextField},
-        {[UIButton class], drawButton},
-        {[UISwitch class], drawSwitch},
-        {[UIActivityIndicatorView class], drawIndicator},
-        {[UIVisualEffectView class], drawEffect},
-        {[UITableViewCell class], drawTableCell},
-        {[UINavigationBar class], drawNavigationBar},
-        {[UIToolbar class], drawToolbar},
-        {[UITabBar class], drawTabBar},
-    };
-    return all;
+// What a view shows of itself, below its subviews.
+void drawContent(SvgCanvas& canvas, UIView* view) {
+    const CGRect bounds = [view bounds];
+    if (UIImageView* picture = as<UIImageView>(view)) drawPicture(canvas, bounds, [picture image]);
+    if (UIButton* button = as<UIButton>(view)) drawPicture(canvas, bounds, [button currentBackgroundImage]);
+    if (UILabel* label = as<UILabel>(view)) drawLabel(canvas, label);
+    if (UITextField* field = as<UITextField>(view)) drawTextField(canvas, field);
+    if (UISwitch* control = as<UISwitch>(view)) drawSwitch(canvas, control);
+    if (UITableViewCell* cell = as<UITableViewCell>(view)) drawTableCell(canvas, cell);
+    if (UINavigationBar* bar = as<UINavigationBar>(view)) drawNavigationBar(canvas, bar);
+    if (UITabBar* bar = as<UITabBar>(view)) drawTabBar(canvas, bar);
+    if (UIToolbar* bar = as<UIToolbar>(view)) {
+        canvas.rectangle(bounds, barColor, 0, lineColor);
+        drawItems(canvas, bounds, [bar items], false);
+    }
+    if (as<UIActivityIndicatorView>(view) != nil)
+        canvas.rectangle(bounds, {0, 0, 0, 0}, bounds.size.width / 2, gray);
+    if (as<UIVisualEffectView>(view) != nil) canvas.rectangle(bounds, blurColor, [[view layer] cornerRadius]);
 }
 
 // A line of a panel: what it says and how.
@@ -194,7 +157,7 @@ PanelLine panelButton(NSString* title, SvgColor color, bool bold) {
 std::vector<PanelLine> linesOf(UIAlertController* alert) {
     std::vector<PanelLine> lines;
     const auto addText = [&lines](NSString* text, UIFont* font) {
-        if (!text) return;
+        if (text == nil) return;
         for (NSString* line in linesOfText(text, font, panelWidth - 2 * panelPadding))
             lines.push_back({toStd(line),
                              {.size = [font pointSize], .alignment = 1, .bold = [font isBold] != NO},
@@ -203,8 +166,9 @@ std::vector<PanelLine> linesOf(UIAlertController* alert) {
     addText([alert title], [UIFont boldSystemFontOfSize:17]);
     addText([alert message], [UIFont systemFontOfSize:13]);
     for (UITextField* field in [alert textFields])
-        lines.push_back(
-            {"[ " + shownText(field) + " ]", {.size = 14, .color = textColor(field), .alignment = 1}, 30});
+        lines.push_back({"[ " + shownText(field) + " ]",
+                         {.size = 14, .color = isEmpty(field) ? gray : black, .alignment = 1},
+                         30});
     for (UIAlertAction* action in [alert actions]) {
         const bool destroys = [action style] == UIAlertActionStyleDestructive;
         lines.push_back(
@@ -239,35 +203,29 @@ void drawPanel(SvgCanvas& canvas, CGSize screen, const std::vector<PanelLine>& l
     }
 }
 
-// Whether the controller is one that shows a panel instead of a view of its own.
-bool drawsPanel(SvgCanvas& canvas, UIViewController* controller, CGSize screen) {
-    if ([controller isKindOfClass:[UIAlertController class]]) {
-        auto* alert = static_cast<UIAlertController*>(controller);
+// Alerts and share sheets show a panel instead of a view of their own.
+bool drawsPanel(SvgCanvas& canvas, UIView* view) {
+    UIViewController* controller = [view _viewControllerForAncestor];
+    if (controller == nil || [controller viewIfLoaded] != view) return false;
+    const CGSize screen = [view bounds].size;
+    UIAlertController* alert = as<UIAlertController>(controller);
+    UIActivityViewController* sheet = as<UIActivityViewController>(controller);
+    if (alert != nil)
         drawPanel(canvas, screen, linesOf(alert),
                   [alert preferredStyle] == UIAlertControllerStyleActionSheet);
-        return true;
-    }
-    if ([controller isKindOfClass:[UIActivityViewController class]]) {
-        drawPanel(canvas, screen, linesOf(static_cast<UIActivityViewController*>(controller)), true);
-        return true;
-    }
-    return false;
+    if (sheet != nil) drawPanel(canvas, screen, linesOf(sheet), true);
+    return alert != nil || sheet != nil;
 }
 
 void draw(SvgCanvas& canvas, UIView* view) {
-    const ViewState& state = [view viewState];
-    if (state.hidden || state.alpha < leastVisibleAlpha) return;
-    if (drawsPanel(canvas, state.controller, [view bounds].size)) return;
-
-    const CGRect bounds = state.geometry.bounds();
-    const CGPoint origin = state.geometry.toSuperview(CGPointZero);
-    const bool clips = [view clipsToBounds] || [view isKindOfClass:[UIScrollView class]] ||
-                       [view isKindOfClass:[UILabel class]];
-    canvas.beginGroup(origin, state.alpha, clips ? std::optional(bounds) : std::nullopt);
-    if (state.backgroundColor)
-        canvas.rectangle(bounds, asSvg(state.backgroundColor.get()), [[view layer] cornerRadius]);
-    for (const Drawer& each : drawers())
-        if ([view isKindOfClass:each.viewClass]) each.draw(canvas, view);
+    if ([view isHidden] || [view alpha] < leastVisibleAlpha || drawsPanel(canvas, view)) return;
+    const CGRect bounds = [view bounds];
+    const bool clips = [view clipsToBounds] || as<UIScrollView>(view) != nil || as<UILabel>(view) != nil;
+    canvas.beginGroup([view convertPoint:CGPointZero toView:[view superview]], [view alpha],
+                      clips ? std::optional(bounds) : std::nullopt);
+    if (UIColor* color = [view backgroundColor])
+        canvas.rectangle(bounds, asSvg(color), [[view layer] cornerRadius]);
+    drawContent(canvas, view);
     for (UIView* subview in [view subviews])
         draw(canvas, subview);
     canvas.endGroup();

@@ -1,20 +1,36 @@
 // The share sheet: lists the activities that can handle what is shared and performs the chosen one.
 #pragma once
 
-#import "UIKit/UIActivity.h"
 #import "UIKit/UIViewController.h"
+
+// One thing that the share sheet can do.
+@interface UIActivity : NSObject
+
+- (NSString*)activityTitle;
+- (BOOL)canPerformWithActivityItems:(NSArray*)items;
+- (void)prepareWithActivityItems:(NSArray*)items;
+- (void)performActivity;
+
+@end
+
+// Saves the shared images into the photo library, asynchronously.
+@interface UISaveToCameraRollActivity : UIActivity {
+  @private
+    NSArray* _images;
+}
+
+// How many of the shared items are images.
+- (NSInteger)imageCount;
+
+@end
 
 @interface UIActivityViewController : UIViewController {
   @private
     NSArray* _activityItems;
     NSArray* _activities;
-    void (^_completion)(NSString* type, BOOL completed, NSArray* returnedItems, NSError* error);
 }
 
 - (instancetype)initWithActivityItems:(NSArray*)items applicationActivities:(NSArray*)activities;
-
-@property (nonatomic, copy) void (^completionWithItemsHandler)
-    (NSString* type, BOOL completed, NSArray* returnedItems, NSError* error);
 
 @end
 

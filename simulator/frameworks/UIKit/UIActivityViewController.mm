@@ -1,10 +1,83 @@
 #import "UIKit/UIActivityViewController.h"
 
-#import "UIKit/internal/ActivityCompletion.h"
-#import "UIKit/internal/ControllerState.h"
-#import "UIKit/internal/MainThread.h"
+#import "UIKit/UIImage.h"
+#import "UIKit/internal/Ownership.h"
 
-using simulator::mainThreadOnly;
+#include <objc/runtime.h>
+
+using simulator::Retained;
+
+// The part of the photo library that saving needs; the library is looked up by name, because a process need
+// not have it loaded.
+@protocol PhotoLibrarySaving
++ (id)sharedPhotoLibrary;
+- (void)performChanges:(void (^)(void))changes
+     completionHandler:(void (^)(BOOL success, NSError* error))handler;
++ (id)creationRequestForAssetFromImage:(UIImage*)image;
+@end
+
+@implementation UIActivity
+
+- (NSString*)activityTitle {
+    return nil;
+}
+
+- (BOOL)canPerformWithActivityItems:(NSArray*)items {
+    return NO;
+}
+
+- (void)prepareWithActivityItems:(NSArray*)items {
+}
+
+- (void)performActivity {
+}
+
+@end
+
+@implementation UISaveToCameraRollActivity
+
+- (void)dealloc {
+    [_images release];
+    [super dealloc];
+}
+
+- (NSString*)activityTitle {
+    const NSInteger count = [self imageCount];
+    return count > 1 ? [NSString stringWithFormat:@"Save %ld Images", static_cast<long>(count)]
+                     : @"Save Image";
+}
+
+- (BOOL)canPerformWithActivityItems:(NSArray*)items {
+    [self prepareWithActivityItems:items];
+    return [_images count] > 0;
+}
+
+- (void)prepareWithActivityItems:(NSArray*)items {
+    NSMutableArray* images = [NSMutableArray array];
+    for (id item in items)
+        if ([item isKindOfClass:[UIImage class]]) [images addObject:item];
+    [_images autorelease];
+    _images = [images copy];
+}
+
+- (NSInteger)imageCount {
+    return static_cast<NSInteger>([_images count]);
+}
+
+- (void)performActivity {
+    Class<PhotoLibrarySaving> request = objc_getClass("PHAssetChangeRequest");
+    id<PhotoLibrarySaving> library =
+        [(Class<PhotoLibrarySaving>)objc_getClass("PHPhotoLibrary") sharedPhotoLibrary];
+    const Retained<NSArray*> images(_images); // blocks on Linux retain no objects by themselves
+    [library
+           performChanges:^{
+               for (UIImage* image in images.get())
+                   [request creationRequestForAssetFromImage:image];
+           }
+        completionHandler:nil];
+}
+
+@end
 
 @implementation UIActivityViewController
 
@@ -18,27 +91,9 @@ using simulator::mainThreadOnly;
 }
 
 - (void)dealloc {
-    for (UIActivity* activity in _activities)
-        [activity setFinishHandler:nil];
     [_activityItems release];
     [_activities release];
-    if (_completion) Block_release(_completion);
     [super dealloc];
-}
-
-- (void (^)(NSString*, BOOL, NSArray*, NSError*))completionWithItemsHandler {
-    mainThreadOnly(self, _cmd);
-    return _completion;
-}
-
-- (void)setCompletionWithItemsHandler:(void (^)(NSString*, BOOL, NSArray*, NSError*))handler {
-    mainThreadOnly(self, _cmd);
-    if (_completion) Block_release(_completion);
-    _completion = Block_copy(handler);
-}
-
-- (BOOL)coversPresenter {
-    return NO;
 }
 
 @end
@@ -46,7 +101,6 @@ using simulator::mainThreadOnly;
 @implementation UIActivityViewController (Input)
 
 - (NSArray*)offeredActivities {
-    mainThreadOnly(self, _cmd);
     NSMutableArray* offered = [NSMutableArray array];
     for (UIActivity* activity in _activities) {
         if (![activity canPerformWithActivityItems:_activityItems]) continue;
@@ -57,33 +111,17 @@ using simulator::mainThreadOnly;
 }
 
 - (BOOL)chooseActivityWithTitle:(NSString*)title {
-    mainThreadOnly(self, _cmd);
     for (UIActivity* activity in [self offeredActivities]) {
         if (![[activity activityTitle] isEqualToString:title]) continue;
-        [self perform:activity];
+        const Retained<UIActivity*> chosen(activity);
+        // The sheet makes way first, so that the activity may present something of its own.
+        [self dismissViewControllerAnimated:YES
+                                 completion:^{
+                                     [chosen.get() performActivity];
+                                 }];
         return YES;
     }
     return NO;
-}
-
-- (void)perform:(UIActivity*)activity {
-    const simulator::Retained<UIViewController*> alive(self);
-    const simulator::Retained<UIActivity*> chosen(activity);
-    [activity setFinishHandler:^(BOOL completed) {
-        [static_cast<UIActivityViewController*>(alive.get()) finished:chosen.get() completed:completed];
-    }];
-    // The sheet makes way first, so that the activity may present something of its own.
-    [self dismissViewControllerAnimated:YES
-                             completion:^{
-                                 [chosen.get() performActivity];
-                             }];
-}
-
-- (void)finished:(UIActivity*)activity completed:(BOOL)completed {
-    const simulator::Retained<UIActivity*> aliveActivity(activity);
-    const simulator::Retained<UIViewController*> alive(self);
-    [activity setFinishHandler:nil]; // it holds this sheet and the activity
-    if (_completion) _completion([activity activityType], completed, nil, nil);
 }
 
 @end

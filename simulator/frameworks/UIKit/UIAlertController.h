@@ -3,11 +3,7 @@
 
 #import "UIKit/UIViewController.h"
 
-@class UIAlertAction, UITextField;
-
-namespace simulator {
-struct AlertState;
-}
+@class UITextField;
 
 typedef NS_ENUM(NSInteger, UIAlertControllerStyle) {
     UIAlertControllerStyleActionSheet = 0,
@@ -20,7 +16,7 @@ typedef NS_ENUM(NSInteger, UIAlertActionStyle) {
     UIAlertActionStyleDestructive = 2,
 };
 
-@interface UIAlertAction : NSObject <NSCopying> {
+@interface UIAlertAction : NSObject {
   @private
     NSString* _title;
     UIAlertActionStyle _style;
@@ -41,14 +37,17 @@ typedef NS_ENUM(NSInteger, UIAlertActionStyle) {
 
 @interface UIAlertController : UIViewController {
   @private
-    simulator::AlertState* _alertState;
+    UIAlertControllerStyle _preferredStyle;
+    NSString* _message;
+    NSMutableArray* _actions;
+    NSMutableArray* _textFields;
 }
 
 + (instancetype)alertControllerWithTitle:(NSString*)title
                                  message:(NSString*)message
                           preferredStyle:(UIAlertControllerStyle)style;
 
-@property (nonatomic, copy) NSString* message;
+@property (nonatomic, readonly) NSString* message;
 @property (nonatomic, readonly) UIAlertControllerStyle preferredStyle;
 // In the order in which they were added.
 @property (nonatomic, readonly) NSArray* actions;
@@ -64,8 +63,7 @@ typedef NS_ENUM(NSInteger, UIAlertActionStyle) {
 // What a user's finger does to an alert.
 @interface UIAlertController (Input)
 
-// Dismisses the alert, then runs the action's handler. Raises for an action that is not the alert's or not
-// enabled.
+// Dismisses the alert, then runs the action's handler.
 - (void)tapAction:(UIAlertAction*)action;
 
 @end

@@ -3,37 +3,22 @@
 
 #import "CoreGraphics/CoreGraphics.h"
 
-@class UIImage, UIView;
-
-namespace simulator {
-struct BarItemState;
-}
+@class UIImage;
 
 typedef NS_ENUM(NSInteger, UIBarButtonItemStyle) {
     UIBarButtonItemStylePlain = 0,
-    UIBarButtonItemStyleDone = 2,
-};
-
-typedef NS_ENUM(NSInteger, UIBarButtonSystemItem) {
-    UIBarButtonSystemItemDone = 0,
-    UIBarButtonSystemItemCancel = 1,
-    UIBarButtonSystemItemEdit = 2,
-    UIBarButtonSystemItemSave = 3,
-    UIBarButtonSystemItemAdd = 4,
-    UIBarButtonSystemItemFlexibleSpace = 5,
-    UIBarButtonSystemItemAction = 9,
-    UIBarButtonSystemItemTrash = 16,
 };
 
 @interface UIBarItem : NSObject {
   @private
-    simulator::BarItemState* _barItemState;
+    NSString* _title;
+    UIImage* _image;
+    NSInteger _tag;
 }
 
 @property (nonatomic, copy) NSString* title;
 @property (nonatomic, retain) UIImage* image;
 @property (nonatomic) NSInteger tag;
-@property (nonatomic, getter=isEnabled) BOOL enabled;
 
 @end
 
@@ -42,27 +27,16 @@ typedef NS_ENUM(NSInteger, UIBarButtonSystemItem) {
     UIBarButtonItemStyle _style;
     id _target;
     SEL _action;
-    UIView* _customView;
 }
 
-// The target is not retained.
 - (instancetype)initWithTitle:(NSString*)title
                         style:(UIBarButtonItemStyle)style
                        target:(id)target
                        action:(SEL)action;
-- (instancetype)initWithImage:(UIImage*)image
-                        style:(UIBarButtonItemStyle)style
-                       target:(id)target
-                       action:(SEL)action;
-- (instancetype)initWithBarButtonSystemItem:(UIBarButtonSystemItem)systemItem
-                                     target:(id)target
-                                     action:(SEL)action;
-- (instancetype)initWithCustomView:(UIView*)customView;
 
 @property (nonatomic) UIBarButtonItemStyle style;
 @property (nonatomic, assign) id target;
 @property (nonatomic) SEL action;
-@property (nonatomic, retain) UIView* customView;
 
 @end
 

@@ -4,7 +4,6 @@
 #import <Foundation/Foundation.h>
 
 typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
-    UIUserInterfaceIdiomUnspecified = -1,
     UIUserInterfaceIdiomPhone = 0,
     UIUserInterfaceIdiomPad = 1,
 };
@@ -22,17 +21,19 @@ typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
 
 @end
 
-@interface UIDevice : NSObject {
-  @private
-    _UITapticEngine* _engine;
-}
+@interface UIDevice : NSObject
 
 + (UIDevice*)currentDevice;
 
 @property (nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
-@property (nonatomic, readonly) NSString* systemVersion;
 
 // nil on a device without one.
 - (_UITapticEngine*)_tapticEngine;
 
 @end
+
+namespace simulator {
+
+bool isPad();
+
+} // namespace simulator

@@ -2,9 +2,9 @@
 
 #include "device/conditions.h"
 
-#include <string>
-
 @implementation _UITapticEngine
+
+@synthesize actuatedFeedback = _actuatedFeedback;
 
 - (instancetype)init {
     self = [super init];
@@ -21,10 +21,6 @@
     [_actuatedFeedback addObject:[NSNumber numberWithLong:feedback]];
 }
 
-- (NSArray*)actuatedFeedback {
-    return [[_actuatedFeedback copy] autorelease];
-}
-
 @end
 
 @implementation UIDevice
@@ -34,28 +30,19 @@
     return device;
 }
 
-- (instancetype)init {
-    self = [super init];
-    _engine = [[_UITapticEngine alloc] init];
-    return self;
-}
-
-- (void)dealloc {
-    [_engine release];
-    [super dealloc];
-}
-
 - (UIUserInterfaceIdiom)userInterfaceIdiom {
-    const bool isPad = simulator::currentConditions()->idiom == simulator::Idiom::pad;
-    return isPad ? UIUserInterfaceIdiomPad : UIUserInterfaceIdiomPhone;
-}
-
-- (NSString*)systemVersion {
-    return [NSString stringWithUTF8String:std::string(releaseName(simulator::currentRelease())).c_str()];
+    return simulator::isPad() ? UIUserInterfaceIdiomPad : UIUserInterfaceIdiomPhone;
 }
 
 - (_UITapticEngine*)_tapticEngine {
-    return simulator::currentConditions()->hapticEngine ? _engine : nil;
+    static _UITapticEngine* const engine = [[_UITapticEngine alloc] init];
+    return simulator::currentConditions()->hapticEngine ? engine : nil;
 }
 
 @end
+
+namespace simulator {
+
+bool isPad() { return currentConditions()->idiom == Idiom::pad; }
+
+} // namespace simulator

@@ -10,7 +10,6 @@
 
 #import "UIKit/NSIndexPath+UIKit.h"
 #import "UIKit/NSString+UIKit.h"
-#import "UIKit/UIActivity.h"
 #import "UIKit/UIActivityIndicatorView.h"
 #import "UIKit/UIActivityViewController.h"
 #import "UIKit/UIAlertController.h"

@@ -4,12 +4,6 @@
 #import "UIKit/UINavigationItem.h"
 #import "UIKit/UIViewController.h"
 
-@class UINavigationController;
-
-namespace simulator {
-struct NavigationState;
-}
-
 @interface UINavigationBar : UIView {
   @private
     NSArray* _items;
@@ -18,7 +12,6 @@ struct NavigationState;
 // One item for each controller of the stack, the topmost last.
 @property (nonatomic, copy) NSArray* items;
 @property (nonatomic, readonly, assign) UINavigationItem* topItem;
-@property (nonatomic, readonly, assign) UINavigationItem* backItem;
 
 @end
 
@@ -28,24 +21,22 @@ struct NavigationState;
 }
 
 @property (nonatomic, copy) NSArray* items;
-- (void)setItems:(NSArray*)items animated:(BOOL)animated;
 
 @end
 
 @interface UINavigationController : UIViewController {
   @private
-    simulator::NavigationState* _navigationState;
+    UINavigationBar* _navigationBar;
+    UIToolbar* _toolbar;
 }
 
 - (instancetype)initWithRootViewController:(UIViewController*)root;
 
 @property (nonatomic, readonly) UINavigationBar* navigationBar;
 @property (nonatomic, readonly) UIToolbar* toolbar;
-@property (nonatomic, getter=isNavigationBarHidden) BOOL navigationBarHidden;
 @property (nonatomic, getter=isToolbarHidden) BOOL toolbarHidden;
 @property (nonatomic, copy) NSArray* viewControllers;
 @property (nonatomic, readonly, assign) UIViewController* topViewController;
-@property (nonatomic, readonly, assign) UIViewController* visibleViewController;
 - (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated;
 // The popped controller; nil when only the root is left.
 - (UIViewController*)popViewControllerAnimated:(BOOL)animated;

@@ -7,7 +7,7 @@
 
 + (UIScreen*)mainScreen;
 
-// In points. Before iOS 8 always as held upright.
+// In points, as held upright.
 @property (nonatomic, readonly) CGRect bounds;
 // Pixels to a point.
 @property (nonatomic, readonly) CGFloat scale;

@@ -1,16 +1,6 @@
 #import "UIKit/UIScreen.h"
 
-#import "UIKit/internal/Orientation.h"
 #include "device/conditions.h"
-
-#include <utility>
-
-namespace {
-
-// Before iOS 8 the screen did not turn with the device.
-bool boundsFollowOrientation() { return simulator::currentRelease() >= simulator::Release::ios8_4; }
-
-} // namespace
 
 @implementation UIScreen
 
@@ -21,9 +11,7 @@ bool boundsFollowOrientation() { return simulator::currentRelease() >= simulator
 
 - (CGRect)bounds {
     const auto conditions = simulator::currentConditions();
-    CGSize size = {conditions->screen.width, conditions->screen.height};
-    if (simulator::isLandscape() && boundsFollowOrientation()) std::swap(size.width, size.height);
-    return {CGPointZero, size};
+    return CGRectMake(0, 0, conditions->screen.width, conditions->screen.height);
 }
 
 - (CGFloat)scale {

@@ -4,10 +4,6 @@
 #import "UIKit/UIBarButtonItem.h"
 #import "UIKit/UIViewController.h"
 
-namespace simulator {
-struct TabState;
-}
-
 @interface UITabBar : UIView {
   @private
     NSArray* _items;
@@ -23,7 +19,8 @@ struct TabState;
 
 @interface UITabBarController : UIViewController {
   @private
-    simulator::TabState* _tabState;
+    UITabBar* _tabBar;
+    UIViewController* _selectedViewController; // not retained: it is one of the children
 }
 
 @property (nonatomic, readonly) UITabBar* tabBar;

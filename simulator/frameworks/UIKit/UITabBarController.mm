@@ -1,10 +1,6 @@
 #import "UIKit/UITabBarController.h"
 
-#import "UIKit/internal/ControllerState.h"
-#import "UIKit/internal/MainThread.h"
-
-using simulator::mainThreadOnly;
-using simulator::Retained;
+#import "UIKit/internal/Containers.h"
 
 namespace {
 
@@ -12,50 +8,26 @@ constexpr CGFloat tabBarHeight = 49;
 
 } // namespace
 
-namespace simulator {
-
-struct TabState {
-    Retained<UITabBar*> bar;
-    Retained<NSArray*> controllers = [NSArray array];
-    Retained<UIViewController*> selected;
-};
-
-} // namespace simulator
-
 @implementation UITabBar
+
+@synthesize items = _items, selectedItem = _selectedItem;
 
 - (void)dealloc {
     [_items release];
     [super dealloc];
 }
 
-- (NSArray*)items {
-    mainThreadOnly(self, _cmd);
-    return [[_items retain] autorelease];
-}
-
 - (void)setItems:(NSArray*)items {
-    mainThreadOnly(self, _cmd);
     [_items autorelease];
     _items = [items copy];
-    if (![_items containsObject:_selectedItem]) _selectedItem = nil;
     [self setNeedsLayout];
-}
-
-- (UITabBarItem*)selectedItem {
-    mainThreadOnly(self, _cmd);
-    return _selectedItem;
-}
-
-- (void)setSelectedItem:(UITabBarItem*)item {
-    mainThreadOnly(self, _cmd);
-    _selectedItem = item;
 }
 
 - (BOOL)hidden {
     return [self isHidden];
 }
 
+// The class has this method of its own on a device.
 - (void)layoutSubviews {
     [super layoutSubviews];
 }
@@ -64,98 +36,68 @@ struct TabState {
 
 @implementation UITabBarController
 
+@synthesize tabBar = _tabBar, selectedViewController = _selectedViewController;
+
 - (instancetype)init {
     self = [super init];
-    _tabState = new simulator::TabState;
-    _tabState->bar = Retained<UITabBar*>::adopted([[UITabBar alloc] initWithFrame:CGRectZero]);
+    _tabBar = [[UITabBar alloc] initWithFrame:CGRectZero];
     return self;
 }
 
 - (void)dealloc {
-    delete _tabState;
+    [_tabBar release];
     [super dealloc];
 }
 
-- (UITabBar*)tabBar {
-    mainThreadOnly(self, _cmd);
-    return _tabState->bar.get();
-}
-
 - (NSArray*)viewControllers {
-    mainThreadOnly(self, _cmd);
-    return _tabState->controllers.autoreleased();
+    return [self childViewControllers];
 }
 
 - (void)setViewControllers:(NSArray*)controllers {
-    mainThreadOnly(self, _cmd);
-    NSArray* before = [self viewControllers];
-    NSMutableArray* items = [NSMutableArray array];
-    for (UIViewController* controller in controllers) {
-        [self addChildViewController:controller];
-        [items addObject:[controller tabBarItem]];
-    }
-    _tabState->controllers = Retained<NSArray*>::copyOf(controllers);
-    [[self tabBar] setItems:items];
-    if (![controllers containsObject:[self selectedViewController]])
-        [self setSelectedViewController:[controllers firstObject]];
-    else
-        [[self tabBar] setSelectedItem:[[self selectedViewController] tabBarItem]];
-    for (UIViewController* controller in controllers)
-        if (![before containsObject:controller]) [controller didMoveToParentViewController:self];
-    for (UIViewController* controller in before)
-        if (![controllers containsObject:controller]) [controller removeFromParentViewController];
-}
-
-- (UIViewController*)selectedViewController {
-    mainThreadOnly(self, _cmd);
-    return _tabState->selected.get();
+    NSArray* before = [self childViewControllers];
+    [self setChildViewControllers:controllers];
+    [_tabBar setItems:[controllers valueForKey:@"tabBarItem"]];
+    const bool remains = [controllers containsObject:_selectedViewController];
+    [self setSelectedViewController:remains ? _selectedViewController : [controllers firstObject]];
+    [self disown:before];
 }
 
 - (void)setSelectedViewController:(UIViewController*)controller {
-    mainThreadOnly(self, _cmd);
-    if (controller && ![_tabState->controllers.get() containsObject:controller])
-        [NSException raise:NSInvalidArgumentException format:@"%@ is not one of the tabs", controller];
-    const Retained<UIViewController*> old = _tabState->selected;
-    if (old.get() == controller) return;
-    _tabState->selected = controller;
-    [[self tabBar] setSelectedItem:[controller tabBarItem]];
-    if ([self isViewLoaded])
-        simulator::exchangeChildren(self, old.get(), controller, [self contentFrame], false);
+    UIViewController* old = _selectedViewController;
+    _selectedViewController = controller;
+    [_tabBar setSelectedItem:[controller tabBarItem]];
+    if (old != controller && [self isViewLoaded]) [self showChildInsteadOf:old animated:NO];
 }
 
 - (NSUInteger)selectedIndex {
-    return [[self viewControllers] indexOfObject:[self selectedViewController]];
+    return [[self childViewControllers] indexOfObject:_selectedViewController];
 }
 
 - (void)setSelectedIndex:(NSUInteger)index {
-    [self setSelectedViewController:[[self viewControllers] objectAtIndex:index]];
+    [self setSelectedViewController:[[self childViewControllers] objectAtIndex:index]];
 }
 
-- (NSArray*)shownChildren {
-    UIViewController* selected = [self selectedViewController];
-    return selected ? [NSArray arrayWithObject:selected] : [NSArray array];
+- (UIViewController*)shownChild {
+    return _selectedViewController;
 }
 
 - (CGRect)contentFrame {
     CGRect frame = [[self view] bounds];
-    if (![[self tabBar] isHidden]) frame.size.height -= tabBarHeight;
+    if (![_tabBar isHidden]) frame.size.height -= tabBarHeight;
     return frame;
 }
 
 - (void)viewDidLoad {
     [super viewDidLoad];
-    if (UIViewController* selected = [self selectedViewController]) {
-        [[selected view] setFrame:[self contentFrame]];
-        [[self view] addSubview:[selected view]];
-    }
-    [[self view] addSubview:[self tabBar]];
+    [self showChildInsteadOf:nil animated:NO];
+    [[self view] addSubview:_tabBar];
 }
 
 - (void)viewWillLayoutSubviews {
     [super viewWillLayoutSubviews];
     const CGSize size = [[self view] bounds].size;
-    [[self tabBar] setFrame:CGRectMake(0, size.height - tabBarHeight, size.width, tabBarHeight)];
-    [[[self selectedViewController] view] setFrame:[self contentFrame]];
+    [_tabBar setFrame:CGRectMake(0, size.height - tabBarHeight, size.width, tabBarHeight)];
+    [[_selectedViewController view] setFrame:[self contentFrame]];
 }
 
 @end

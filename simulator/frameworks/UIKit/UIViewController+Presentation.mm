@@ -3,179 +3,137 @@
 #import "UIKit/UIDevice.h"
 #import "UIKit/UIPopoverPresentationController.h"
 #import "UIKit/UIWindow.h"
-#import "UIKit/internal/ControllerState.h"
-#import "UIKit/internal/MainThread.h"
+#import "UIKit/internal/Containers.h"
+#import "UIKit/internal/Ownership.h"
 #include "device/clock.h"
 
-using simulator::ControllerState;
-using simulator::mainThreadOnly;
+using simulator::OwnedBlock;
 using simulator::Retained;
-using simulator::Transition;
 
 namespace {
 
-// Presentations belong to the outermost container, whichever controller inside it asked.
-UIViewController* presenterFor(UIViewController* controller) {
-    while (UIViewController* parent = [controller parentViewController])
-        controller = parent;
-    return controller;
-}
-
-// Starts a transition of what a controller presents; `finish` is sent to it when the time has come, unless
-// the transition was cut short before.
-void beginTransition(UIViewController* presenter, Transition kind, bool animated, void (^completion)(void)) {
-    ControllerState& state = [presenter controllerState];
-    state.transition = kind;
-    state.afterTransition = completion;
-    const unsigned number = ++state.transitionNumber;
-    if (!animated) return [presenter finishTransition];
-    const Retained<UIViewController*> alive(presenter);
-    simulator::clock().after(simulator::transitionDuration, [alive, number] {
-        if ([alive.get() controllerState].transitionNumber == number) [alive.get() finishTransition];
-    });
-}
+constexpr double transitionDuration = 0.4; // seconds, when it is animated
 
 } // namespace
 
 @implementation UIViewController (Presentation)
 
-- (UIModalPresentationStyle)modalPresentationStyle {
-    mainThreadOnly(self, _cmd);
-    return [self controllerState].presentationStyle;
-}
-
-- (void)setModalPresentationStyle:(UIModalPresentationStyle)style {
-    mainThreadOnly(self, _cmd);
-    [self controllerState].presentationStyle = style;
+// Presentations belong to the outermost container, whichever controller inside it asked.
+- (UIViewController*)presenter {
+    UIViewController* outermost = self;
+    while (outermost->_parentViewController != nil)
+        outermost = outermost->_parentViewController;
+    return outermost;
 }
 
 - (UIViewController*)presentedViewController {
-    mainThreadOnly(self, _cmd);
-    return [presenterFor(self) controllerState].presented.get();
+    return [self presenter]->_presented;
 }
 
 - (UIViewController*)presentingViewController {
-    mainThreadOnly(self, _cmd);
-    return [presenterFor(self) controllerState].presenting;
+    return [self presenter]->_presenting;
 }
 
 - (UIPopoverPresentationController*)popoverPresentationController {
-    mainThreadOnly(self, _cmd);
     if ([self modalPresentationStyle] != UIModalPresentationPopover) return nil;
-    ControllerState& state = [self controllerState];
-    if (!state.popover)
-        state.popover = Retained<UIPopoverPresentationController*>::adopted(
-            [[UIPopoverPresentationController alloc] initWithPresentedViewController:self]);
-    return state.popover.get();
+    if (_popover == nil) _popover = [[UIPopoverPresentationController alloc] init];
+    return _popover;
 }
 
-- (BOOL)coversPresenter {
-    const UIModalPresentationStyle style = [self modalPresentationStyle];
-    const bool isPad = [[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad;
-    if (style == UIModalPresentationFullScreen || style == UIModalPresentationCurrentContext) return YES;
-    const bool isCompact = style == UIModalPresentationPageSheet || style == UIModalPresentationFormSheet ||
-                           style == UIModalPresentationPopover;
-    return isCompact && !isPad ? YES : NO; // a phone shows these as full screens
-}
-
-// Popovers exist on pads only; elsewhere the presentation adapts.
 - (BOOL)isShownAsPopover {
-    return [self modalPresentationStyle] == UIModalPresentationPopover &&
-                   [[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad
-               ? YES
-               : NO;
+    return [self modalPresentationStyle] == UIModalPresentationPopover && simulator::isPad();
 }
 
-- (void)requireAnchor {
-    if (![self isShownAsPopover]) return;
-    UIPopoverPresentationController* popover = [self popoverPresentationController];
-    if ([popover sourceView] || [popover barButtonItem]) return;
-    [NSException
-         raise:NSGenericException
-        format:@"UIPopoverPresentationController (%@) should have a non-nil sourceView or barButtonItem set "
-               @"before the presentation occurs.",
-               popover];
+// What a presentation takes away, as against putting something on top of it.
+- (UIViewController*)coveredBy:(UIViewController*)presented {
+    const bool covers = [presented modalPresentationStyle] == UIModalPresentationFullScreen;
+    return covers ? [[[self view] window] rootViewController] : nil;
 }
 
-// Why a presentation is refused; nil when it is not.
-- (NSString*)reasonNotToPresent:(UIViewController*)controller {
-    if ([self presentedViewController])
-        return [presenterFor(self) controllerState].transition == Transition::dismissing
-                   ? @"while a dismissal is in progress"
-                   : @"which is already presenting";
-    if (![[self view] window]) return @"whose view is not in the window hierarchy";
-    return nil;
+// Starts a transition of what this controller presents. `end` runs when the time has come, unless the
+// transition was cut short before.
+- (void)beginTransition:(BOOL)animated end:(void (^)(void))end {
+    _endOfTransition = Block_copy(end);
+    const unsigned number = ++_transitionNumber;
+    if (!animated) return [self finishTransition];
+    const Retained<UIViewController*> alive(self);
+    simulator::clock().after(transitionDuration, [alive, number] {
+        if (alive.get()->_transitionNumber == number) [alive.get() finishTransition];
+    });
+}
+
+- (void)finishTransition {
+    const Retained<UIViewController*> alive(self);
+    const OwnedBlock<void (^)(void)> end(_endOfTransition);
+    Block_release(_endOfTransition);
+    _endOfTransition = nullptr;
+    ++_transitionNumber;
+    end();
 }
 
 - (void)presentViewController:(UIViewController*)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion {
-    mainThreadOnly(self, _cmd);
-    if (!controller || controller == self)
-        [NSException raise:NSInvalidArgumentException format:@"%@ cannot present %@", self, controller];
-    if ([controller presentingViewController])
+    if (controller == nil || controller == self || controller->_presenting != nil)
         [NSException raise:NSInvalidArgumentException
                     format:@"Application tried to present modally an active controller %@.", controller];
-    if (NSString* reason = [self reasonNotToPresent:controller])
-        return NSLog(@"Warning: Attempt to present %@ on %@ %@!", controller, self, reason);
-    [controller requireAnchor];
-
-    UIViewController* presenter = presenterFor(self);
-    [presenter controllerState].presented = controller;
-    [controller controllerState].presenting = presenter;
+    UIViewController* presenter = [self presenter];
     UIWindow* window = [[self view] window];
-    UIViewController* covered = [controller coversPresenter] ? [window rootViewController] : nil;
-    simulator::willDisappear(covered, animated);
-    simulator::willAppear(controller, animated);
+    if (presenter->_presented != nil || window == nil)
+        return NSLog(@"Warning: Attempt to present %@ on %@, which presents already or is on no window!",
+                     controller, self);
+    UIPopoverPresentationController* popover = [controller popoverPresentationController];
+    if ([controller isShownAsPopover] && [popover sourceView] == nil && [popover barButtonItem] == nil)
+        [NSException raise:NSGenericException
+                    format:@"UIPopoverPresentationController (%@) should have a non-nil sourceView or "
+                           @"barButtonItem set before the presentation occurs.",
+                           popover];
+
+    presenter->_presented = [controller retain];
+    controller->_presenting = presenter;
+    UIViewController* covered = [presenter coveredBy:controller];
+    [covered willChangeAppearance:NO animated:animated];
+    [controller willChangeAppearance:YES animated:animated];
     [[controller view] setFrame:[window bounds]];
     [window addSubview:[controller view]];
     [[controller view] layoutIfNeeded];
-    beginTransition(presenter, Transition::presenting, animated, completion);
+    const Retained<UIViewController*> below(covered), above(controller);
+    const OwnedBlock<void (^)(void)> done(completion);
+    [presenter beginTransition:animated
+                           end:^{
+                               [below.get() didChangeAppearance:NO animated:animated];
+                               [above.get() didChangeAppearance:YES animated:animated];
+                               done();
+                           }];
 }
 
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(void (^)(void))completion {
-    mainThreadOnly(self, _cmd);
-    UIViewController* presenter = self;
-    while (presenter && ![presenter controllerState].presented)
-        presenter = [presenter parentViewController];
-    if (!presenter) presenter = [self presentingViewController];
-    if (!presenter) {
+    UIViewController* own = [self presenter];
+    UIViewController* presenter = own->_presented != nil ? own : own->_presenting;
+    if (presenter == nil) {
         if (completion) completion();
         return;
     }
     const Retained<UIViewController*> alive(presenter);
-    if ([presenter controllerState].transition != Transition::none) [presenter finishTransition];
-    const Retained<UIViewController*> presented = [presenter controllerState].presented;
-    if (!presented) return;
+    if (presenter->_endOfTransition) [presenter finishTransition];
+    const Retained<UIViewController*> above(presenter->_presented);
+    if (!above) return;
     // What lies on top goes with it.
-    if ([presented.get() controllerState].presented)
-        [presented.get() dismissViewControllerAnimated:NO completion:nil];
-    simulator::willDisappear(presented.get(), animated);
-    if ([presented.get() coversPresenter])
-        simulator::willAppear([[[presenter view] window] rootViewController], animated);
-    beginTransition(presenter, Transition::dismissing, animated, completion);
-}
-
-- (void)finishTransition {
-    const Retained<UIViewController*> alive(self);
-    ControllerState& state = [self controllerState];
-    const Transition kind = std::exchange(state.transition, Transition::none);
-    const auto completion = std::exchange(state.afterTransition, {});
-    const Retained<UIViewController*> presented = state.presented;
-    ++state.transitionNumber;
-    UIViewController* root = [[[self view] window] rootViewController];
-    UIViewController* covered = [presented.get() coversPresenter] ? root : nil;
-    if (kind == Transition::presenting) {
-        simulator::didDisappear(covered, true);
-        simulator::didAppear(presented.get(), true);
-    } else {
-        state.presented = {};
-        [presented.get() controllerState].presenting = nil;
-        [[presented.get() viewIfLoaded] removeFromSuperview];
-        simulator::didDisappear(presented.get(), true);
-        simulator::didAppear(covered, true);
-    }
-    completion();
+    if (above.get()->_presented != nil) [above.get() dismissViewControllerAnimated:NO completion:nil];
+    const Retained<UIViewController*> below([presenter coveredBy:above.get()]);
+    [above.get() willChangeAppearance:NO animated:animated];
+    [below.get() willChangeAppearance:YES animated:animated];
+    const OwnedBlock<void (^)(void)> done(completion);
+    [presenter beginTransition:animated
+                           end:^{
+                               [presenter->_presented release];
+                               presenter->_presented = nil;
+                               above.get()->_presenting = nil;
+                               [[above.get() viewIfLoaded] removeFromSuperview];
+                               [above.get() didChangeAppearance:NO animated:animated];
+                               [below.get() didChangeAppearance:YES animated:animated];
+                               done();
+                           }];
 }
 
 @end

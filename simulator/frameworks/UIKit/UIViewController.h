@@ -5,33 +5,37 @@
 #import "UIKit/UIResponder.h"
 #import "UIKit/UIView.h"
 
-@class UIBarButtonItem, UINavigationController, UINavigationItem, UIPopoverPresentationController,
-    UITabBarController, UITabBarItem;
-
-namespace simulator {
-struct ControllerState;
-}
+@class UINavigationController, UINavigationItem, UIPopoverPresentationController, UITabBarController,
+    UITabBarItem;
 
 typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
     UIModalPresentationFullScreen = 0,
-    UIModalPresentationPageSheet = 1,
-    UIModalPresentationFormSheet = 2,
-    UIModalPresentationCurrentContext = 3,
     UIModalPresentationCustom = 4,
-    UIModalPresentationOverFullScreen = 5,
-    UIModalPresentationOverCurrentContext = 6,
     UIModalPresentationPopover = 7,
 };
 
 @protocol UIViewControllerTransitionCoordinator <NSObject>
-// `completion` runs once the new size is in place; both blocks may be nil.
 - (BOOL)animateAlongsideTransition:(void (^)(id context))animation
                         completion:(void (^)(id context))completion;
 @end
 
 @interface UIViewController : UIResponder {
   @private
-    simulator::ControllerState* _controllerState;
+    UIView* _view;
+    NSString* _title;
+    UINavigationItem* _navigationItem;
+    UITabBarItem* _tabBarItem;
+    NSArray* _toolbarItems;
+    NSArray* _childViewControllers;
+    UIViewController* _parentViewController; // not retained: it retains this controller
+    UIViewController* _presented;
+    UIViewController* _presenting; // not retained: it retains this controller
+    UIPopoverPresentationController* _popover;
+    void (^_endOfTransition)(void); // of what this controller presents; nil when none is under way
+    unsigned _transitionNumber;
+    UIModalPresentationStyle _modalPresentationStyle;
+    BOOL _editing;
+    BOOL _appeared;
 }
 
 @property (nonatomic, copy) NSString* title;
@@ -53,29 +57,20 @@ typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
 
 @property (nonatomic, getter=isEditing) BOOL editing;
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated;
-// A button for a bar that turns editing on and off.
-- (UIBarButtonItem*)editButtonItem;
 
-@property (nonatomic, readonly, assign) UIViewController* parentViewController;
-@property (nonatomic, readonly) NSArray* childViewControllers;
-- (void)addChildViewController:(UIViewController*)child;
-- (void)removeFromParentViewController;
-- (void)willMoveToParentViewController:(UIViewController*)parent;
-- (void)didMoveToParentViewController:(UIViewController*)parent;
 @property (nonatomic, readonly, assign) UINavigationController* navigationController;
 @property (nonatomic, readonly, assign) UITabBarController* tabBarController;
 @property (nonatomic, readonly, retain) UINavigationItem* navigationItem;
 @property (nonatomic, retain) UITabBarItem* tabBarItem;
-@property (nonatomic, copy) NSArray* toolbarItems;
+@property (nonatomic, readonly, copy) NSArray* toolbarItems;
 - (void)setToolbarItems:(NSArray*)items animated:(BOOL)animated;
 
-@property (nonatomic) CGSize preferredContentSize;
+@property (nonatomic) UIModalPresentationStyle modalPresentationStyle;
 
 @end
 
 @interface UIViewController (Presentation)
 
-@property (nonatomic) UIModalPresentationStyle modalPresentationStyle;
 @property (nonatomic, readonly, assign) UIViewController* presentedViewController;
 @property (nonatomic, readonly, assign) UIViewController* presentingViewController;
 // Not nil while the presentation style is a popover; also what an action sheet is anchored by on a pad.

@@ -1,4 +1,4 @@
-// The root of a view tree; the application's key window is the one that the user works with.
+// The root of a view tree.
 #pragma once
 
 #import "UIKit/UIView.h"
@@ -12,9 +12,7 @@
 
 // Setting it puts the controller's view into the window at the window's size.
 @property (nonatomic, retain) UIViewController* rootViewController;
-@property (nonatomic, readonly, getter=isKeyWindow) BOOL keyWindow;
 
-- (void)makeKeyWindow;
 - (void)makeKeyAndVisible;
 
 @end

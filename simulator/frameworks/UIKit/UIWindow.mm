@@ -1,14 +1,11 @@
 #import "UIKit/UIWindow.h"
 
 #import "UIKit/UIApplication.h"
-#import "UIKit/UIViewController.h"
-#import "UIKit/internal/ApplicationWindows.h"
-#import "UIKit/internal/ControllerState.h"
-#import "UIKit/internal/MainThread.h"
-
-using simulator::mainThreadOnly;
+#import "UIKit/internal/Containers.h"
 
 @implementation UIWindow
+
+@synthesize rootViewController = _rootViewController;
 
 - (instancetype)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
@@ -21,56 +18,29 @@ using simulator::mainThreadOnly;
     [super dealloc];
 }
 
-- (UIViewController*)rootViewController {
-    mainThreadOnly(self, _cmd);
-    return _rootViewController;
-}
-
 - (void)setRootViewController:(UIViewController*)controller {
-    mainThreadOnly(self, _cmd);
-    if (_rootViewController == controller) return;
-    const simulator::Retained<UIViewController*> old =
-        simulator::Retained<UIViewController*>::adopted(_rootViewController);
+    UIViewController* old = [_rootViewController autorelease];
     _rootViewController = [controller retain];
-    if (![self isHidden]) {
-        simulator::willDisappear(old.get(), false);
-        [[old.get() viewIfLoaded] removeFromSuperview];
-        simulator::didDisappear(old.get(), false);
-        [self showRoot];
-    }
-}
-
-- (BOOL)isKeyWindow {
-    return [[UIApplication sharedApplication] keyWindow] == self ? YES : NO;
-}
-
-- (void)makeKeyWindow {
-    mainThreadOnly(self, _cmd);
-    [[UIApplication sharedApplication] makeKeyWindow:self];
+    if ([self isHidden]) return;
+    [old willChangeAppearance:NO animated:NO];
+    [[old viewIfLoaded] removeFromSuperview];
+    [old didChangeAppearance:NO animated:NO];
+    [self showRoot];
 }
 
 - (void)makeKeyAndVisible {
-    mainThreadOnly(self, _cmd);
-    [[UIApplication sharedApplication] addWindow:self];
-    [self makeKeyWindow];
-    if (![self isHidden]) return;
+    [[UIApplication sharedApplication] setKeyWindow:self];
     [self setHidden:NO];
     [self showRoot];
 }
 
-- (void)layoutSubviews {
-    [super layoutSubviews];
-    if ([[_rootViewController viewIfLoaded] superview] == self)
-        [[_rootViewController view] setFrame:[self bounds]];
-}
-
 - (void)showRoot {
-    if (!_rootViewController) return;
-    simulator::willAppear(_rootViewController, false);
+    if (_rootViewController == nil) return;
+    [_rootViewController willChangeAppearance:YES animated:NO];
     [[_rootViewController view] setFrame:[self bounds]];
     [self insertSubview:[_rootViewController view] atIndex:0];
     [self layoutIfNeeded];
-    simulator::didAppear(_rootViewController, false);
+    [_rootViewController didChangeAppearance:YES animated:NO];
 }
 
 @end

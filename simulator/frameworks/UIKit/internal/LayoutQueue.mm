@@ -21,8 +21,7 @@ void scheduleLayout() {
 
 void layoutWindows() {
     layoutIsScheduled = false;
-    for (UIWindow* window in [[UIApplication sharedApplication] windows])
-        [window layoutTree];
+    [[[UIApplication sharedApplication] keyWindow] layoutTree];
 }
 
 } // namespace simulator

@@ -1,10 +1,9 @@
-// What a gesture recogniser keeps, and how touches drive it.
+// Brings a touch to whom it concerns: gesture recognisers first, then the control or cell that was hit.
 #pragma once
 
 #import "UIKit/UIGestureRecognizer.h"
-#import "UIKit/internal/ActionTargets.h"
 
-#include <vector>
+#include <initializer_list>
 
 namespace simulator {
 
@@ -16,32 +15,27 @@ struct Touch {
     double seconds = 0;
 };
 
-struct RecognizerState {
-    std::vector<ActionTarget> targets;
-    UIView* view = nil; // not retained: it retains the recogniser
-    Weak delegate;
-    UIGestureRecognizerState state = UIGestureRecognizerStatePossible;
-    CGPoint pointInWindow = {};
-    bool enabled = true;
-    bool cancelsTouches = true;
-};
-
-void setView(UIGestureRecognizer* recognizer, UIView* view);
+void deliver(const Touch& touch);
 
 } // namespace simulator
 
-@interface UIGestureRecognizer (Touches)
+@interface UIGestureRecognizer ()
 
-- (simulator::RecognizerState&)recognizerState;
+@property (nonatomic, assign) UIView* view;
 
 // Whether the touch is this recogniser's gesture.
 - (BOOL)recognizes:(const simulator::Touch&)touch;
-// Goes through the states of the gesture, telling the targets.
+// Of several that recognise a touch the lowest wins: more taps are waited for, a shorter press is over
+// sooner.
+- (double)rank;
+// Goes through the states of the gesture, telling the target.
 - (void)perform:(const simulator::Touch&)touch;
-// Enters the state and tells the targets.
-- (void)enterState:(UIGestureRecognizerState)state;
-// Whether the delegate lets the gesture begin.
-- (BOOL)mayBegin;
-- (BOOL)mayRecognizeBeside:(UIGestureRecognizer*)other;
+- (void)goThrough:(std::initializer_list<UIGestureRecognizerState>)states;
 
 @end
+
+namespace simulator {
+
+inline void setView(UIGestureRecognizer* recognizer, UIView* view) { [recognizer setView:view]; }
+
+} // namespace simulator

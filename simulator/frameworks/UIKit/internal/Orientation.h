@@ -1,8 +1,0 @@
-// How the device is held.
-#pragma once
-
-namespace simulator {
-
-bool isLandscape(); // main thread
-
-} // namespace simulator
