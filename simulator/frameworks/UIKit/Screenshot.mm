@@ -179,7 +179,7 @@ std::vector<PanelLine> linesOf(UIAlertController* alert) {
 
 std::vector<PanelLine> linesOf(UIActivityViewController* sheet) {
     std::vector<PanelLine> lines;
-    for (UIActivity* activity in [sheet offeredActivities])
+    for (UISaveToCameraRollActivity* activity in [sheet offeredActivities])
         lines.push_back(panelButton([activity activityTitle], blue, false));
     return lines;
 }

@@ -16,24 +16,6 @@ using simulator::Retained;
 + (id)creationRequestForAssetFromImage:(UIImage*)image;
 @end
 
-@implementation UIActivity
-
-- (NSString*)activityTitle {
-    return nil;
-}
-
-- (BOOL)canPerformWithActivityItems:(NSArray*)items {
-    return NO;
-}
-
-- (void)prepareWithActivityItems:(NSArray*)items {
-}
-
-- (void)performActivity {
-}
-
-@end
-
 @implementation UISaveToCameraRollActivity
 
 - (void)dealloc {
@@ -45,11 +27,6 @@ using simulator::Retained;
     const NSInteger count = [self imageCount];
     return count > 1 ? [NSString stringWithFormat:@"Save %ld Images", static_cast<long>(count)]
                      : @"Save Image";
-}
-
-- (BOOL)canPerformWithActivityItems:(NSArray*)items {
-    [self prepareWithActivityItems:items];
-    return [_images count] > 0;
 }
 
 - (void)prepareWithActivityItems:(NSArray*)items {
@@ -83,15 +60,14 @@ using simulator::Retained;
 
 - (instancetype)initWithActivityItems:(NSArray*)items applicationActivities:(NSArray*)activities {
     self = [super init];
-    _activityItems = [items copy];
-    UIActivity* save = [[[UISaveToCameraRollActivity alloc] init] autorelease];
+    auto* save = [[[UISaveToCameraRollActivity alloc] init] autorelease];
+    [save prepareWithActivityItems:items];
     _activities = [[[NSArray arrayWithObject:save] arrayByAddingObjectsFromArray:activities] copy];
     [self setModalPresentationStyle:UIModalPresentationPopover]; // adapts to a sheet on a phone
     return self;
 }
 
 - (void)dealloc {
-    [_activityItems release];
     [_activities release];
     [super dealloc];
 }
@@ -101,19 +77,13 @@ using simulator::Retained;
 @implementation UIActivityViewController (Input)
 
 - (NSArray*)offeredActivities {
-    NSMutableArray* offered = [NSMutableArray array];
-    for (UIActivity* activity in _activities) {
-        if (![activity canPerformWithActivityItems:_activityItems]) continue;
-        [activity prepareWithActivityItems:_activityItems];
-        [offered addObject:activity];
-    }
-    return offered;
+    return _activities;
 }
 
 - (BOOL)chooseActivityWithTitle:(NSString*)title {
-    for (UIActivity* activity in [self offeredActivities]) {
+    for (id activity in _activities) {
         if (![[activity activityTitle] isEqualToString:title]) continue;
-        const Retained<UIActivity*> chosen(activity);
+        const Retained<> chosen(activity);
         // The sheet makes way first, so that the activity may present something of its own.
         [self dismissViewControllerAnimated:YES
                                  completion:^{
