@@ -65,6 +65,7 @@ json viewAsJson(UIView* view) {
         {"class", className(view)}, {"frame", asJson([view frame])}, {"subviews", json::array()}};
     describeState(view, description);
     if (UILabel* label = as<UILabel>(view)) description["text"] = textOrNull([label text]);
+    if (UITextField* field = as<UITextField>(view)) description["text"] = toStd([field text]);
     if (UIImageView* picture = as<UIImageView>(view)) description["image"] = asJson([picture image]);
     for (UIView* subview in [view subviews])
         description["subviews"].push_back(viewAsJson(subview));
