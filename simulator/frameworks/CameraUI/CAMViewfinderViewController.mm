@@ -57,10 +57,8 @@ UIImage* pictureOfNewestPhoto() {
     [_backgroundView setBackgroundColor:[UIColor blackColor]];
     [_backgroundView setUserInteractionEnabled:NO];
     _imageWell = [[CAMImageWell alloc] initWithFrame:CGRectMake(0, 0, imageWellSide, imageWellSide)];
-    [_imageWell setAccessibilityLabel:@"Last photo"];
     _shutterButton = [[UIButton buttonWithType:UIButtonTypeCustom] retain];
     [_shutterButton setBounds:CGRectMake(0, 0, shutterSide, shutterSide)];
-    [_shutterButton setAccessibilityLabel:@"Shutter"];
     for (UIView* view in @[ _backgroundView, _imageWell, _shutterButton ])
         [self addSubview:view];
     return self;

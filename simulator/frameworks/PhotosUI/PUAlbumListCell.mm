@@ -110,7 +110,6 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
         Class buttonClass = ownClass != Nil ? ownClass : [UIButton class];
         _deleteButton = [[buttonClass buttonWithType:UIButtonTypeCustom] retain];
         [_deleteButton setFrame:deleteButtonFrame];
-        [_deleteButton setAccessibilityLabel:@"Delete"];
         [_deleteButton addTarget:self
                           action:@selector(_deleteAction:)
                 forControlEvents:UIControlEventTouchUpInside];

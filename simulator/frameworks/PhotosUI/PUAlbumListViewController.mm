@@ -262,7 +262,6 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 #pragma mark Opening and picking
 
 - (void)collectionView:(UICollectionView*)collectionView didSelectItemAtIndexPath:(NSIndexPath*)path {
-    [collectionView deselectItemAtIndexPath:path animated:NO];
     if (![self isEditing]) [self didSelectItemAtIndexPath:path];
 }
 

@@ -139,7 +139,6 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
 #pragma mark Opening and selecting
 
 - (void)collectionView:(UICollectionView*)collectionView didSelectItemAtIndexPath:(NSIndexPath*)path {
-    [collectionView deselectItemAtIndexPath:path animated:NO];
     PHAsset* asset = [_assets objectAtIndex:static_cast<NSUInteger>([path item])];
     if (![self isEditing]) {
         [self _openAsset:asset];

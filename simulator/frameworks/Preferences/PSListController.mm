@@ -172,7 +172,6 @@
 }
 
 - (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path {
-    [table deselectRowAtIndexPath:path animated:YES];
     PSSpecifier* specifier = [self specifierAtIndexPath:path];
     if ([specifier cellType] == PSButtonCell)
         [specifier performLegacyAction];

@@ -1,14 +1,7 @@
-#import "QuartzCore/CALayer.h"
+#import "QuartzCore/QuartzCore.h"
 
 @implementation CALayer
 
-@synthesize delegate = _delegate;
-@synthesize cornerRadius = _cornerRadius;
-@synthesize borderWidth = _borderWidth;
-@synthesize masksToBounds = _masksToBounds;
-
-+ (instancetype)layer {
-    return [[[self alloc] init] autorelease];
-}
+@synthesize cornerRadius = _cornerRadius, masksToBounds = _masksToBounds;
 
 @end

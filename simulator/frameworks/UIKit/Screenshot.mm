@@ -1,11 +1,10 @@
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
 #import "UIKit/internal/Casts.h"
-#import "UIKit/internal/ImagePixels.h"
-#import "UIKit/internal/LayoutQueue.h"
-#import "UIKit/internal/Strings.h"
 #import "UIKit/internal/Text.h"
+#import "UIKit/internal/ViewInternals.h"
 #include "UIKit/model/SvgCanvas.h"
+#include "device/strings.h"
 
 #include <vector>
 
@@ -32,7 +31,8 @@ SvgColor asSvg(UIColor* color) {
 }
 
 void drawPicture(SvgCanvas& canvas, CGRect rect, UIImage* image) {
-    if (image != nil) canvas.picture(rect, [image bitmap].png());
+    if (image != nil)
+        canvas.picture(rect, text([UIImagePNGRepresentation(image) base64EncodedStringWithOptions:0]));
 }
 
 // The lines stand one below the other in the vertical middle; text of one line is cut off, not wrapped.
@@ -43,7 +43,7 @@ void drawLabel(SvgCanvas& canvas, UILabel* label) {
     const CGFloat height = [[label font] lineHeight];
     CGFloat y = CGRectGetMidY(bounds) - height * static_cast<CGFloat>([lines count]) / 2;
     for (NSString* line in lines) {
-        canvas.line(CGRectMake(bounds.origin.x, y, bounds.size.width, height), toStd(line),
+        canvas.line(CGRectMake(bounds.origin.x, y, bounds.size.width, height), text(line),
                     {.size = [[label font] pointSize],
                      .color = asSvg([label textColor]),
                      .alignment = static_cast<int>([label textAlignment]),
@@ -55,14 +55,13 @@ void drawLabel(SvgCanvas& canvas, UILabel* label) {
 bool isEmpty(UITextField* field) { return [[field text] length] == 0; }
 
 std::string shownText(UITextField* field) {
-    if (isEmpty(field)) return toStd([field placeholder]);
-    return [field isSecureTextEntry] ? std::string([[field text] length], '*') : toStd([field text]);
+    if (isEmpty(field)) return text([field placeholder]);
+    return [field isSecureTextEntry] ? std::string([[field text] length], '*') : text([field text]);
 }
 
 void drawTextField(SvgCanvas& canvas, UITextField* field) {
-    canvas.line([field bounds], shownText(field), {
-        .size = [[field font] pointSize], .color = isEmpty(field) ? gray : asSvg([field textColor])
-    });
+    canvas.line([field bounds], shownText(field),
+                { .size = [[field font] pointSize], .color = isEmpty(field) ? gray : black });
 }
 
 void drawSwitch(SvgCanvas& canvas, UISwitch* control) {
@@ -85,9 +84,10 @@ void drawItems(SvgCanvas& canvas, CGRect bar, NSArray* items, bool fromTheRight)
     CGFloat x = fromTheRight ? CGRectGetMaxX(bar) - 10 : bar.origin.x + 10;
     for (UIBarButtonItem* item in items) {
         NSString* title = [item title];
-        const CGFloat width = [title sizeWithFont:[UIFont systemFontOfSize:17]].width;
+        const CGFloat width =
+            sizeOfText(title, [UIFont systemFontOfSize : 17], { CGFLOAT_MAX, CGFLOAT_MAX }).width;
         const CGRect rect = CGRectMake(fromTheRight ? x - width : x, bar.origin.y, width, bar.size.height);
-        canvas.line(rect, toStd(title), {.color = blue, .alignment = 1});
+        canvas.line(rect, text(title), {.color = blue, .alignment = 1});
         x += fromTheRight ? -width - 16 : width + 16;
     }
 }
@@ -96,12 +96,12 @@ void drawNavigationBar(SvgCanvas& canvas, UINavigationBar* bar) {
     const CGRect bounds = [bar bounds];
     canvas.rectangle(CGRectMake(0, -20, bounds.size.width, bounds.size.height + 20), barColor, 0, lineColor);
     UINavigationItem* item = [bar topItem];
-    canvas.line(bounds, toStd([item title]), {.color = black, .alignment = 1, .bold = true});
+    canvas.line(bounds, text([item title]), {.color = black, .alignment = 1, .bold = true});
     NSArray* left = [item leftBarButtonItems];
     const NSUInteger depth = [[bar items] count];
     if (left == nil && depth > 1) {
         UINavigationItem* back = [[bar items] objectAtIndex:depth - 2];
-        canvas.line(CGRectInset(bounds, 10, 0), "< " + toStd([back title]), {.color = blue});
+        canvas.line(CGRectInset(bounds, 10, 0), "< " + text([back title]), {.color = blue});
     }
     drawItems(canvas, bounds, left, false);
     drawItems(canvas, bounds, [item rightBarButtonItems], true);
@@ -113,7 +113,7 @@ void drawTabBar(SvgCanvas& canvas, UITabBar* bar) {
     const CGFloat width = bounds.size.width / static_cast<CGFloat>(MAX([[bar items] count], 1U));
     CGFloat x = 0;
     for (UITabBarItem* item in [bar items]) {
-        canvas.line(CGRectMake(x, 0, width, bounds.size.height), toStd([item title]),
+        canvas.line(CGRectMake(x, 0, width, bounds.size.height), text([item title]),
                     {.size = 13, .color = item == [bar selectedItem] ? blue : gray, .alignment = 1});
         x += width;
     }
@@ -123,7 +123,6 @@ void drawTabBar(SvgCanvas& canvas, UITabBar* bar) {
 void drawContent(SvgCanvas& canvas, UIView* view) {
     const CGRect bounds = [view bounds];
     if (UIImageView* picture = as<UIImageView>(view)) drawPicture(canvas, bounds, [picture image]);
-    if (UIButton* button = as<UIButton>(view)) drawPicture(canvas, bounds, [button currentBackgroundImage]);
     if (UILabel* label = as<UILabel>(view)) drawLabel(canvas, label);
     if (UITextField* field = as<UITextField>(view)) drawTextField(canvas, field);
     if (UISwitch* control = as<UISwitch>(view)) drawSwitch(canvas, control);
@@ -151,20 +150,20 @@ constexpr CGFloat panelPadding = 14;
 constexpr CGFloat panelButtonHeight = 44;
 
 PanelLine panelButton(NSString* title, SvgColor color, bool bold) {
-    return {toStd(title), {.size = 17, .color = color, .alignment = 1, .bold = bold}, panelButtonHeight};
+    return {text(title), {.size = 17, .color = color, .alignment = 1, .bold = bold}, panelButtonHeight};
 }
 
 std::vector<PanelLine> linesOf(UIAlertController* alert) {
     std::vector<PanelLine> lines;
-    const auto addText = [&lines](NSString* text, UIFont* font) {
-        if (text == nil) return;
-        for (NSString* line in linesOfText(text, font, panelWidth - 2 * panelPadding))
-            lines.push_back({toStd(line),
+    const auto add = [&lines](NSString* paragraph, UIFont* font) {
+        if (paragraph == nil) return;
+        for (NSString* line in linesOfText(paragraph, font, panelWidth - 2 * panelPadding))
+            lines.push_back({text(line),
                              {.size = [font pointSize], .alignment = 1, .bold = [font isBold] != NO},
                              [font lineHeight]});
     };
-    addText([alert title], [UIFont boldSystemFontOfSize:17]);
-    addText([alert message], [UIFont systemFontOfSize:13]);
+    add([alert title], [UIFont boldSystemFontOfSize:17]);
+    add([alert message], [UIFont systemFontOfSize:13]);
     for (UITextField* field in [alert textFields])
         lines.push_back({"[ " + shownText(field) + " ]",
                          {.size = 14, .color = isEmpty(field) ? gray : black, .alignment = 1},

@@ -1,8 +1,8 @@
 #import "UIKit/UIAlertController.h"
 
 #import "ObjectiveC/MainThreadOnly.h"
+#import "UIKit/UIControl.h"
 #import "UIKit/UIDevice.h"
-#import "UIKit/UITextField.h"
 #import "UIKit/internal/Containers.h"
 #import "UIKit/internal/Ownership.h"
 

@@ -2,7 +2,7 @@
 // cycle.
 #pragma once
 
-#import "UIKit/UIResponder.h"
+#import "UIKit/UIView.h"
 
 @class UIWindow;
 

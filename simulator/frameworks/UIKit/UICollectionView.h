@@ -2,63 +2,41 @@
 #pragma once
 
 #import "UIKit/NSIndexPath+UIKit.h"
-#import "UIKit/UIScrollView.h"
+#import "UIKit/UIViewController.h"
+#import "UIKit/internal/ListView.h"
 
 @class UICollectionView;
 
-namespace simulator {
-struct CollectionState;
-}
+typedef struct UIEdgeInsets {
+    CGFloat top;
+    CGFloat left;
+    CGFloat bottom;
+    CGFloat right;
+} UIEdgeInsets;
 
-@interface UICollectionReusableView : UIView {
-  @private
-    NSString* _reuseIdentifier;
-}
-
-@property (nonatomic, readonly, copy) NSString* reuseIdentifier;
-- (void)prepareForReuse;
-
+@interface UICollectionViewCell : ListCell
 @end
 
-@interface UICollectionViewCell : UICollectionReusableView {
-  @private
-    UIView* _cellContentView;
-    BOOL _selected;
-}
-
-@property (nonatomic, readonly, retain) UIView* contentView;
-@property (nonatomic, getter=isSelected) BOOL selected;
-
-@end
-
-@interface UICollectionViewLayout : NSObject {
+// Places the items in lines. The one layout that there is.
+@interface UICollectionViewFlowLayout : NSObject {
   @private
     UICollectionView* _collectionView;
-}
-
-// Not retained.
-@property (nonatomic, readonly, assign) UICollectionView* collectionView;
-- (void)invalidateLayout;
-- (void)prepareLayout;
-- (CGSize)collectionViewContentSize;
-// The frame of an item in the collection's content, in points.
-- (CGRect)frameForItemAtIndexPath:(NSIndexPath*)path;
-
-@end
-
-@interface UICollectionViewFlowLayout : UICollectionViewLayout {
-  @private
     CGSize _itemSize;
     CGFloat _minimumLineSpacing;
     CGFloat _minimumInteritemSpacing;
     UIEdgeInsets _sectionInset;
 }
 
+// Set by the collection; not retained: it retains the layout.
+@property (nonatomic, assign) UICollectionView* collectionView;
 // 50 by 50 points unless set.
-@property (nonatomic) CGSize itemSize;
+@property (nonatomic) CGSize itemSize; // setting it places the items anew
 @property (nonatomic) CGFloat minimumLineSpacing;
 @property (nonatomic) CGFloat minimumInteritemSpacing;
 @property (nonatomic) UIEdgeInsets sectionInset;
+- (CGSize)collectionViewContentSize;
+// The frame of an item in the collection's content, in points.
+- (CGRect)frameForItemAtIndexPath:(NSIndexPath*)path;
 
 @end
 
@@ -66,41 +44,48 @@ struct CollectionState;
 - (NSInteger)collectionView:(UICollectionView*)collection numberOfItemsInSection:(NSInteger)section;
 - (UICollectionViewCell*)collectionView:(UICollectionView*)collection
                  cellForItemAtIndexPath:(NSIndexPath*)path;
-@optional
-- (NSInteger)numberOfSectionsInCollectionView:(UICollectionView*)collection;
 @end
 
 @protocol UICollectionViewDelegate <NSObject>
 @optional
 - (void)collectionView:(UICollectionView*)collection didSelectItemAtIndexPath:(NSIndexPath*)path;
-- (void)collectionView:(UICollectionView*)collection didDeselectItemAtIndexPath:(NSIndexPath*)path;
 @end
 
-@interface UICollectionView : UIScrollView {
+// Has one section.
+@interface UICollectionView : ListView {
   @private
-    simulator::CollectionState* _collectionState;
+    UICollectionViewFlowLayout* _collectionViewLayout;
+    NSMutableDictionary* _cellClasses; // by reuse identifier
+    NSInteger _itemCount;
 }
 
-- (instancetype)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewLayout*)layout;
+- (instancetype)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewFlowLayout*)layout;
 
-@property (nonatomic, retain) UICollectionViewLayout* collectionViewLayout;
-// Not retained.
-@property (nonatomic, assign) id<UICollectionViewDataSource> dataSource;
-@property (nonatomic) BOOL allowsMultipleSelection;
+@property (nonatomic, readonly) UICollectionViewFlowLayout* collectionViewLayout;
 - (void)registerClass:(Class)cellClass forCellWithReuseIdentifier:(NSString*)identifier;
+// Raises for an identifier without a class.
 - (id)dequeueReusableCellWithReuseIdentifier:(NSString*)identifier forIndexPath:(NSIndexPath*)path;
-// Asks the data source anew at the next layout.
-- (void)reloadData;
-- (NSInteger)numberOfSections;
 - (NSInteger)numberOfItemsInSection:(NSInteger)section;
 // nil for an item that is not on the screen.
 - (UICollectionViewCell*)cellForItemAtIndexPath:(NSIndexPath*)path;
-- (NSArray*)visibleCells;
-- (NSArray*)indexPathsForVisibleItems;
 - (NSIndexPath*)indexPathForCell:(UICollectionViewCell*)cell;
-- (NSIndexPath*)indexPathForItemAtPoint:(CGPoint)point;
-- (NSArray*)indexPathsForSelectedItems;
-- (void)selectItemAtIndexPath:(NSIndexPath*)path animated:(BOOL)animated scrollPosition:(NSUInteger)position;
-- (void)deselectItemAtIndexPath:(NSIndexPath*)path animated:(BOOL)animated;
+
+// What a tap on a cell does.
+- (void)tapCell:(UICollectionViewCell*)cell;
+
+@end
+
+// A controller whose view holds one collection, of which it is data source and delegate:
+// its subclasses answer the two.
+@interface UICollectionViewController : UIViewController {
+  @private
+    UICollectionViewFlowLayout* _layout;
+    UICollectionView* _collectionView;
+}
+
+- (instancetype)initWithCollectionViewLayout:(UICollectionViewFlowLayout*)layout;
+
+@property (nonatomic, readonly, retain) UICollectionView* collectionView;
+@property (nonatomic, readonly) UICollectionViewFlowLayout* collectionViewLayout;
 
 @end

@@ -1,44 +1,70 @@
-// A view that tells its targets what the user did with it.
+// Controls: views that tell their targets what the user did with them, and what the user types into.
 #pragma once
 
 #import "UIKit/UIView.h"
 
-namespace simulator {
-struct ControlState;
-}
+@class UIFont, UIImage, UIImageView, UILabel;
 
 typedef NS_OPTIONS(NSUInteger, UIControlEvents) {
-    UIControlEventTouchDown = 1 << 0,
     UIControlEventTouchUpInside = 1 << 6,
-    UIControlEventTouchUpOutside = 1 << 7,
     UIControlEventValueChanged = 1 << 12,
-    UIControlEventEditingDidBegin = 1 << 16,
-    UIControlEventEditingChanged = 1 << 17,
-    UIControlEventEditingDidEnd = 1 << 18,
-    UIControlEventAllEvents = 0xFFFFFFFF,
 };
 
-typedef NS_OPTIONS(NSUInteger, UIControlState) {
-    UIControlStateNormal = 0,
-    UIControlStateHighlighted = 1 << 0,
-    UIControlStateDisabled = 1 << 1,
-    UIControlStateSelected = 1 << 2,
-};
+typedef NS_OPTIONS(NSUInteger, UIControlState) { UIControlStateNormal = 0 };
+
+typedef NS_ENUM(NSInteger, UIButtonType) { UIButtonTypeCustom = 0 };
 
 @interface UIControl : UIView {
   @private
-    simulator::ControlState* _controlState;
+    id _target;
+    SEL _action;
+    UIControlEvents _events;
 }
 
-@property (nonatomic, getter=isEnabled) BOOL enabled;
-@property (nonatomic, getter=isSelected) BOOL selected;
-@property (nonatomic, getter=isHighlighted) BOOL highlighted;
-@property (nonatomic, readonly) UIControlState state;
-
-// The target is not retained; the action may take the control or nothing.
+// A control has one target, which is not retained; the action may take the control or nothing.
 - (void)addTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
-- (void)removeTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
 - (void)sendActionsForControlEvents:(UIControlEvents)events;
-- (void)sendAction:(SEL)action to:(id)target forEvent:(id)event;
+
+@end
+
+// Shows a picture and a title. The normal state is the only one.
+@interface UIButton : UIControl {
+  @private
+    UILabel* _titleLabel;
+    UIImageView* _imageView;
+}
+
++ (instancetype)buttonWithType:(UIButtonType)type;
+
+- (void)setTitle:(NSString*)title forState:(UIControlState)state;
+- (void)setImage:(UIImage*)image forState:(UIControlState)state;
+
+@end
+
+@interface UISwitch : UIControl {
+  @private
+    BOOL _on;
+}
+
+@property (nonatomic, getter=isOn) BOOL on;
+- (void)setOn:(BOOL)on animated:(BOOL)animated;
+
+@end
+
+// The user types one line of text into it.
+@interface UITextField : UIControl {
+  @private
+    NSString* _text;
+    NSString* _placeholder;
+    UIFont* _font;
+    BOOL _secureTextEntry;
+}
+
+// Never nil: the empty string when nothing was typed.
+@property (nonatomic, copy) NSString* text;
+@property (nonatomic, copy) NSString* placeholder;
+// The system font of 17 points unless set.
+@property (nonatomic, retain) UIFont* font;
+@property (nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
 
 @end

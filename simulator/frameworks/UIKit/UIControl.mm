@@ -1,104 +1,103 @@
 #import "UIKit/UIControl.h"
 
+#import "UIKit/DisplayViews.h"
+#import "UIKit/UIImage.h"
 #import "UIKit/internal/ActionTargets.h"
-#import "UIKit/internal/MainThread.h"
 
-#include <vector>
-
-using simulator::ActionTarget;
-using simulator::mainThreadOnly;
-
-namespace simulator {
-
-struct ControlState {
-    std::vector<ActionTarget> targets;
-    bool enabled = true;
-    bool selected = false;
-    bool highlighted = false;
-};
-
-} // namespace simulator
+#include <algorithm>
 
 @implementation UIControl
 
+- (void)addTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events {
+    _target = target;
+    _action = action;
+    _events = events;
+}
+
+- (void)sendActionsForControlEvents:(UIControlEvents)events {
+    const simulator::Retained<UIControl*> alive(self);
+    if (_events & events) simulator::sendAction(_target, _action, self);
+}
+
+@end
+
+@implementation UIButton
+
++ (instancetype)buttonWithType:(UIButtonType)type {
+    return [[[self alloc] initWithFrame:CGRectZero] autorelease];
+}
+
 - (instancetype)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
-    _controlState = new simulator::ControlState;
+    _imageView = [[UIImageView alloc] initWithFrame:CGRectZero];
+    _titleLabel = [[UILabel alloc] initWithFrame:CGRectZero];
     return self;
 }
 
 - (void)dealloc {
-    delete _controlState;
+    [_titleLabel release];
+    [_imageView release];
     [super dealloc];
 }
 
-- (BOOL)isEnabled {
-    mainThreadOnly(self, _cmd);
-    return _controlState->enabled ? YES : NO;
+- (void)setTitle:(NSString*)title forState:(UIControlState)state {
+    [_titleLabel setText:title];
+    [self addSubview:_titleLabel];
+    [self setNeedsLayout];
 }
 
-- (void)setEnabled:(BOOL)enabled {
-    mainThreadOnly(self, _cmd);
-    _controlState->enabled = enabled;
+- (void)setImage:(UIImage*)image forState:(UIControlState)state {
+    [_imageView setImage:image];
+    [self addSubview:_imageView];
+    [self setNeedsLayout];
 }
 
-- (BOOL)isSelected {
-    mainThreadOnly(self, _cmd);
-    return _controlState->selected ? YES : NO;
+// Picture and title stand side by side in the middle.
+- (void)layoutSubviews {
+    [super layoutSubviews];
+    const CGSize size = [self bounds].size;
+    const CGSize image = [_imageView image] != nil ? [[_imageView image] size] : CGSizeZero;
+    CGSize title = [_titleLabel sizeThatFits:CGSizeZero];
+    title.width = std::min(title.width, std::max<CGFloat>(size.width - image.width, 0));
+    const CGFloat left = (size.width - image.width - title.width) / 2;
+    [_imageView setFrame:CGRectMake(left, (size.height - image.height) / 2, image.width, image.height)];
+    [_titleLabel
+        setFrame:CGRectMake(left + image.width, (size.height - title.height) / 2, title.width, title.height)];
 }
 
-- (void)setSelected:(BOOL)selected {
-    mainThreadOnly(self, _cmd);
-    _controlState->selected = selected;
+@end
+
+@implementation UISwitch
+
+@synthesize on = _on;
+
+- (void)setOn:(BOOL)on animated:(BOOL)animated {
+    [self setOn:on];
 }
 
-- (BOOL)isHighlighted {
-    mainThreadOnly(self, _cmd);
-    return _controlState->highlighted ? YES : NO;
+@end
+
+@implementation UITextField
+
+@synthesize text = _text, placeholder = _placeholder, font = _font, secureTextEntry = _secureTextEntry;
+
+- (instancetype)initWithFrame:(CGRect)frame {
+    self = [super initWithFrame:frame];
+    _text = @"";
+    _font = [[UIFont systemFontOfSize:17] retain];
+    return self;
 }
 
-- (void)setHighlighted:(BOOL)highlighted {
-    mainThreadOnly(self, _cmd);
-    _controlState->highlighted = highlighted;
+- (void)dealloc {
+    [_text release];
+    [_placeholder release];
+    [_font release];
+    [super dealloc];
 }
 
-- (UIControlState)state {
-    mainThreadOnly(self, _cmd);
-    UIControlState state = UIControlStateNormal;
-    if (!_controlState->enabled) state |= UIControlStateDisabled;
-    if (_controlState->selected) state |= UIControlStateSelected;
-    if (_controlState->highlighted) state |= UIControlStateHighlighted;
-    return state;
-}
-
-- (void)addTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events {
-    mainThreadOnly(self, _cmd);
-    for (ActionTarget& each : _controlState->targets) {
-        if (!target || !each.matches(target, action)) continue;
-        each.events |= events; // the same pair is told once for each event
-        return;
-    }
-    if (target) _controlState->targets.push_back({target, action, events});
-}
-
-- (void)removeTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events {
-    mainThreadOnly(self, _cmd);
-    for (ActionTarget& each : _controlState->targets)
-        if (each.matches(target, action)) each.events &= ~NSUInteger(events);
-    std::erase_if(_controlState->targets, [](const ActionTarget& each) { return each.events == 0; });
-}
-
-- (void)sendActionsForControlEvents:(UIControlEvents)events {
-    mainThreadOnly(self, _cmd);
-    const simulator::Retained<UIControl*> alive(self);
-    const std::vector<ActionTarget> targets = _controlState->targets; // an action may change them
-    for (const ActionTarget& each : targets)
-        if (each.events & events) [self sendAction:each.action to:each.target.get() forEvent:nil];
-}
-
-- (void)sendAction:(SEL)action to:(id)target forEvent:(id)event {
-    mainThreadOnly(self, _cmd);
-    simulator::sendAction(target, action, self);
+- (void)setText:(NSString*)text {
+    [_text autorelease];
+    _text = text != nil ? [text copy] : @"";
 }
 
 @end

@@ -4,34 +4,18 @@
 
 @implementation UIFont
 
-@synthesize pointSize = _pointSize;
-@synthesize bold = _bold;
+@synthesize pointSize = _pointSize, bold = _bold;
 
-+ (UIFont*)fontOfSize:(CGFloat)size bold:(BOOL)bold {
++ (UIFont*)systemFontOfSize:(CGFloat)size {
     UIFont* font = [[[self alloc] init] autorelease];
     font->_pointSize = size;
-    font->_bold = bold;
     return font;
 }
 
-+ (UIFont*)systemFontOfSize:(CGFloat)size {
-    return [self fontOfSize:size bold:NO];
-}
-
 + (UIFont*)boldSystemFontOfSize:(CGFloat)size {
-    return [self fontOfSize:size bold:YES];
-}
-
-- (CGFloat)lineHeight {
-    return simulator::lineHeight(simulator::textStyle(self));
-}
-
-- (UIFont*)fontWithSize:(CGFloat)size {
-    return [UIFont fontOfSize:size bold:_bold];
-}
-
-- (id)copyWithZone:(NSZone*)zone {
-    return [self retain];
+    UIFont* font = [self systemFontOfSize:size];
+    font->_bold = YES;
+    return font;
 }
 
 - (BOOL)isEqual:(id)other {
@@ -41,6 +25,20 @@
 
 - (NSUInteger)hash {
     return static_cast<NSUInteger>(_pointSize * 2) + _bold;
+}
+
+- (CGFloat)lineHeight {
+    return simulator::lineHeight(_pointSize);
+}
+
+@end
+
+@implementation NSString (UIKit)
+
+- (CGSize)sizeWithFont:(UIFont*)font
+     constrainedToSize:(CGSize)size
+         lineBreakMode:(NSLineBreakMode)lineBreakMode {
+    return simulator::sizeOfText(self, font, size);
 }
 
 @end

@@ -1,12 +1,10 @@
 #import "UIKit/UIImage.h"
 
 #import "UIKit/UIScreen.h"
-#import "UIKit/internal/ImagePixels.h"
-#import "UIKit/internal/Ownership.h"
+#include "UIKit/model/Png.h"
 
+#include <algorithm>
 #include <cmath>
-
-using simulator::Bitmap;
 
 namespace {
 
@@ -17,18 +15,13 @@ CGFloat scaleInName(NSString* path) {
     return [name hasSuffix:@"@3x"] ? 3 : 1;
 }
 
-// The variant of a plain file name for a scale: icon.png becomes icon@2x.png.
-NSString* pathForScale(NSString* path, int scale) {
-    NSString* name = [[path stringByDeletingPathExtension] stringByAppendingFormat:@"@%dx", scale];
-    NSString* extension = [path pathExtension];
-    return [extension length] > 0 ? [name stringByAppendingPathExtension:extension] : name;
-}
-
-// The file to load for a path: the variant for the screen's scale where there is one.
+// The file to load for a path: the variant for the screen's scale where there is one (icon@2x.png for
+// icon.png).
 NSString* bestFile(NSString* path) {
     const int screenScale = static_cast<int>([[UIScreen mainScreen] scale]);
     if (screenScale == 1 || scaleInName(path) != 1) return path;
-    NSString* variant = pathForScale(path, screenScale);
+    NSString* name = [[path stringByDeletingPathExtension] stringByAppendingFormat:@"@%dx", screenScale];
+    NSString* variant = [name stringByAppendingPathExtension:[path pathExtension]];
     return [[NSFileManager defaultManager] isReadableFileAtPath:variant] ? variant : path;
 }
 
@@ -36,85 +29,59 @@ NSString* bestFile(NSString* path) {
 
 @implementation UIImage
 
-@synthesize scale = _scale;
-
-+ (UIImage*)imageNamed:(NSString*)name {
-    if ([name length] == 0) return nil;
-    NSString* file = [[name pathExtension] length] > 0 ? name : [name stringByAppendingPathExtension:@"png"];
-    return [self
-        imageWithContentsOfFile:[[[NSBundle mainBundle] resourcePath] stringByAppendingPathComponent:file]];
-}
-
-+ (UIImage*)imageWithContentsOfFile:(NSString*)path {
-    return [[[self alloc] initWithContentsOfFile:path] autorelease];
-}
+@synthesize scale = _scale, fileName = _fileName;
 
 + (UIImage*)imageWithData:(NSData*)data {
-    return [[[self alloc] initWithData:data] autorelease];
-}
-
-+ (UIImage*)imageWithData:(NSData*)data scale:(CGFloat)scale {
-    return [[[self alloc] initWithData:data scale:scale] autorelease];
+    return [[[self alloc] initWithData:data scale:1] autorelease];
 }
 
 + (UIImage*)imageWithPixelSize:(CGSize)pixelSize seed:(NSUInteger)seed {
-    const auto side = [](CGFloat length) {
-        return static_cast<std::uint32_t>(std::max<CGFloat>(std::round(length), 1));
-    };
-    return
-        [[[self alloc] initWithBitmap:Bitmap::generated(side(pixelSize.width), side(pixelSize.height), seed)
-                                scale:1] autorelease];
-}
-
-- (instancetype)initWithBitmap:(std::shared_ptr<const Bitmap>)bitmap scale:(CGFloat)scale {
-    self = [super init];
-    if (!bitmap) {
-        [self release];
-        return nil;
-    }
-    _bitmap = new std::shared_ptr<const Bitmap>(std::move(bitmap));
-    _scale = scale;
-    return self;
+    UIImage* image = [[[self alloc] init] autorelease];
+    const auto side = [](CGFloat length) { return std::max<CGFloat>(std::round(length), 1); };
+    image->_pixelSize = {side(pixelSize.width), side(pixelSize.height)};
+    image->_seed = seed;
+    image->_scale = 1;
+    return image;
 }
 
 - (instancetype)initWithContentsOfFile:(NSString*)path {
     NSString* file = [path length] > 0 ? bestFile(path) : nil;
-    self = [self initWithData:file ? [NSData dataWithContentsOfFile:file] : nil scale:scaleInName(file)];
-    if (self) _fileName = [[file lastPathComponent] copy];
+    self = [self initWithData:file != nil ? [NSData dataWithContentsOfFile:file] : nil
+                        scale:scaleInName(file)];
+    if (self != nil) _fileName = [[file lastPathComponent] copy];
     return self;
 }
 
-- (instancetype)initWithData:(NSData*)data {
-    return [self initWithData:data scale:1];
-}
-
 - (instancetype)initWithData:(NSData*)data scale:(CGFloat)scale {
-    const auto* bytes = static_cast<const std::uint8_t*>([data bytes]);
-    return [self initWithBitmap:data ? Bitmap::fromPng({bytes, [data length]}) : nullptr scale:scale];
+    self = [super init];
+    const auto size = simulator::sizeOfPng({static_cast<const std::uint8_t*>([data bytes]), [data length]});
+    if (!size) {
+        [self release];
+        return nil;
+    }
+    _file = [data copy];
+    _pixelSize = CGSizeMake(size->width, size->height);
+    _scale = scale;
+    return self;
 }
 
 - (void)dealloc {
-    delete _bitmap;
+    [_file release];
     [_fileName release];
     [super dealloc];
 }
 
-- (const Bitmap&)bitmap {
-    return **_bitmap;
-}
-
-- (NSString*)fileName {
-    return _fileName;
-}
-
 - (CGSize)size {
-    return {(*_bitmap)->width() / _scale, (*_bitmap)->height() / _scale};
+    return {_pixelSize.width / _scale, _pixelSize.height / _scale};
+}
+
+- (NSData*)file {
+    if (_file != nil) return _file;
+    const auto file = simulator::generatedPng(
+        {static_cast<std::uint32_t>(_pixelSize.width), static_cast<std::uint32_t>(_pixelSize.height)}, _seed);
+    return [NSData dataWithBytes:file.data() length:file.size()];
 }
 
 @end
 
-NSData* UIImagePNGRepresentation(UIImage* image) {
-    if (!image) return nil;
-    const std::vector<std::uint8_t> file = [image bitmap].png();
-    return [NSData dataWithBytes:file.data() length:file.size()];
-}
+NSData* UIImagePNGRepresentation(UIImage* image) { return [image file]; }

@@ -3,17 +3,9 @@
 
 #import "UIKit/UIView.h"
 
-typedef struct UIEdgeInsets {
-    CGFloat top;
-    CGFloat left;
-    CGFloat bottom;
-    CGFloat right;
-} UIEdgeInsets;
-
 @interface UIScrollView : UIView {
   @private
     CGSize _contentSize;
-    UIEdgeInsets _contentInset;
     id _scrollDelegate;
 }
 
@@ -21,7 +13,6 @@ typedef struct UIEdgeInsets {
 // The origin of the bounds. Comes back to the end of the content when view or content become too short for
 // it.
 @property (nonatomic) CGPoint contentOffset;
-@property (nonatomic) UIEdgeInsets contentInset;
 // Not retained.
 @property (nonatomic, assign) id delegate;
 - (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated;

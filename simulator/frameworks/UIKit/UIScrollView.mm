@@ -1,20 +1,12 @@
 #import "UIKit/UIScrollView.h"
 
-#import "UIKit/internal/MainThread.h"
-
 #include <algorithm>
-
-using simulator::mainThreadOnly;
 
 @implementation UIScrollView
 
-- (CGSize)contentSize {
-    mainThreadOnly(self, _cmd);
-    return _contentSize;
-}
+@synthesize contentSize = _contentSize, delegate = _scrollDelegate;
 
 - (void)setContentSize:(CGSize)size {
-    mainThreadOnly(self, _cmd);
     _contentSize = size;
     [self keepContentInSight];
 }
@@ -27,13 +19,11 @@ using simulator::mainThreadOnly;
 // What was scrolled to may lie beyond the end once the view or its content changes size.
 - (void)keepContentInSight {
     const CGRect bounds = [self bounds];
-    const auto within = [](CGFloat offset, CGFloat first, CGFloat last) {
-        return std::min(offset, std::max(first, last));
+    const auto within = [](CGFloat offset, CGFloat last) {
+        return std::min(offset, std::max<CGFloat>(0, last));
     };
-    const CGPoint offset = {within(bounds.origin.x, -_contentInset.left,
-                                   _contentSize.width - bounds.size.width + _contentInset.right),
-                            within(bounds.origin.y, -_contentInset.top,
-                                   _contentSize.height - bounds.size.height + _contentInset.bottom)};
+    const CGPoint offset = {within(bounds.origin.x, _contentSize.width - bounds.size.width),
+                            within(bounds.origin.y, _contentSize.height - bounds.size.height)};
     if (!CGPointEqualToPoint(offset, bounds.origin)) [self setContentOffset:offset];
 }
 
@@ -42,32 +32,12 @@ using simulator::mainThreadOnly;
 }
 
 - (void)setContentOffset:(CGPoint)offset {
-    [self setContentOffset:offset animated:NO];
-}
-
-- (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated {
     [self setBounds:{offset, [self bounds].size}];
     [self setNeedsLayout]; // other content comes into sight
 }
 
-- (UIEdgeInsets)contentInset {
-    mainThreadOnly(self, _cmd);
-    return _contentInset;
-}
-
-- (void)setContentInset:(UIEdgeInsets)inset {
-    mainThreadOnly(self, _cmd);
-    _contentInset = inset;
-}
-
-- (id)delegate {
-    mainThreadOnly(self, _cmd);
-    return _scrollDelegate;
-}
-
-- (void)setDelegate:(id)delegate {
-    mainThreadOnly(self, _cmd);
-    _scrollDelegate = delegate;
+- (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated {
+    [self setContentOffset:offset];
 }
 
 @end

@@ -2,14 +2,11 @@
 #pragma once
 
 #import "UIKit/NSIndexPath+UIKit.h"
-#import "UIKit/UIScrollView.h"
+#import "UIKit/internal/ListView.h"
 
-@class UILabel, UIImageView, UITableView;
+#include <vector>
 
-namespace simulator {
-struct TableState;
-struct TableCellState;
-} // namespace simulator
+@class UILabel, UITableView;
 
 typedef NS_ENUM(NSInteger, UITableViewStyle) {
     UITableViewStylePlain = 0,
@@ -19,7 +16,6 @@ typedef NS_ENUM(NSInteger, UITableViewStyle) {
 typedef NS_ENUM(NSInteger, UITableViewCellStyle) {
     UITableViewCellStyleDefault = 0,
     UITableViewCellStyleValue1 = 1,
-    UITableViewCellStyleValue2 = 2,
     UITableViewCellStyleSubtitle = 3,
 };
 
@@ -29,23 +25,22 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
     UITableViewCellAccessoryCheckmark = 3,
 };
 
-@interface UITableViewCell : UIView {
+@interface UITableViewCell : ListCell {
   @private
-    simulator::TableCellState* _cellState;
+    UILabel* _textLabel;
+    UILabel* _detailTextLabel;
+    UIView* _accessoryView;
+    UITableViewCellStyle _cellStyle;
+    UITableViewCellAccessoryType _accessoryType;
 }
 
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString*)reuseIdentifier;
 
-@property (nonatomic, readonly, copy) NSString* reuseIdentifier;
-@property (nonatomic, readonly, retain) UIView* contentView;
 @property (nonatomic, readonly, retain) UILabel* textLabel;
 // nil in the default style.
 @property (nonatomic, readonly, retain) UILabel* detailTextLabel;
-@property (nonatomic, readonly, retain) UIImageView* imageView;
 @property (nonatomic) UITableViewCellAccessoryType accessoryType;
 @property (nonatomic, retain) UIView* accessoryView;
-@property (nonatomic, getter=isSelected) BOOL selected;
-- (void)prepareForReuse;
 
 @end
 
@@ -62,31 +57,28 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 @protocol UITableViewDelegate <NSObject>
 @optional
 - (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path;
-- (CGFloat)tableView:(UITableView*)table heightForRowAtIndexPath:(NSIndexPath*)path;
 @end
 
-@interface UITableView : UIScrollView {
+namespace simulator {
+
+struct TableRow {
+    NSInteger section;
+    NSInteger row;
+    CGFloat top;
+};
+
+} // namespace simulator
+
+@interface UITableView : ListView {
   @private
-    simulator::TableState* _tableState;
+    std::vector<simulator::TableRow> _rows;
+    NSMutableArray* _sectionTexts;
 }
 
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style;
-
-@property (nonatomic, readonly) UITableViewStyle style;
-// Not retained.
-@property (nonatomic, assign) id<UITableViewDataSource> dataSource;
-@property (nonatomic) CGFloat rowHeight;
-- (void)reloadData;
-- (NSInteger)numberOfSections;
-- (NSInteger)numberOfRowsInSection:(NSInteger)section;
-- (void)registerClass:(Class)cellClass forCellReuseIdentifier:(NSString*)identifier;
 - (id)dequeueReusableCellWithIdentifier:(NSString*)identifier;
-- (id)dequeueReusableCellWithIdentifier:(NSString*)identifier forIndexPath:(NSIndexPath*)path;
-// nil for a row that is not on the screen.
-- (UITableViewCell*)cellForRowAtIndexPath:(NSIndexPath*)path;
-- (NSArray*)visibleCells;
-- (NSIndexPath*)indexPathForCell:(UITableViewCell*)cell;
-- (NSIndexPath*)indexPathForRowAtPoint:(CGPoint)point;
-- (void)deselectRowAtIndexPath:(NSIndexPath*)path animated:(BOOL)animated;
+
+// What a tap on a cell does.
+- (void)tapCell:(UITableViewCell*)cell;
 
 @end

@@ -1,13 +1,7 @@
+#import "UIKit/DisplayViews.h"
 #import "UIKit/UITableView.h"
 
-#import "UIKit/UIFont.h"
-#import "UIKit/UIImageView.h"
-#import "UIKit/UILabel.h"
-#import "UIKit/internal/MainThread.h"
-#import "UIKit/internal/Ownership.h"
-
-using simulator::mainThreadOnly;
-using simulator::Retained;
+#include <algorithm>
 
 namespace {
 
@@ -17,153 +11,67 @@ constexpr CGFloat defaultHeight = 44;
 
 } // namespace
 
-namespace simulator {
-
-struct TableCellState {
-    Retained<NSString*> reuseIdentifier;
-    Retained<UIView*> contentView;
-    Retained<UILabel*> textLabel;
-    Retained<UILabel*> detailLabel;
-    Retained<UIImageView*> imageView;
-    Retained<UIView*> accessoryView;
-    UITableViewCellStyle style = UITableViewCellStyleDefault;
-    UITableViewCellAccessoryType accessoryType = UITableViewCellAccessoryNone;
-    bool selected = false;
-};
-
-} // namespace simulator
-
 @implementation UITableViewCell
 
-- (instancetype)initWithFrame:(CGRect)frame {
-    return [self initWithStyle:UITableViewCellStyleDefault reuseIdentifier:nil];
-}
+@synthesize accessoryType = _accessoryType, accessoryView = _accessoryView;
 
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString*)reuseIdentifier {
-    self = [super initWithFrame:CGRectMake(0, 0, 320, defaultHeight)];
-    _cellState = new simulator::TableCellState;
-    _cellState->style = style;
-    _cellState->reuseIdentifier = Retained<NSString*>::copyOf(reuseIdentifier);
-    _cellState->contentView = Retained<UIView*>::adopted([[UIView alloc] initWithFrame:[self bounds]]);
-    [_cellState->contentView.get()
-        setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
-    [self addSubview:_cellState->contentView.get()];
+    self = [self initWithFrame:CGRectMake(0, 0, 320, defaultHeight)];
+    _cellStyle = style;
+    [self setReuseIdentifier:reuseIdentifier];
     return self;
 }
 
 - (void)dealloc {
-    delete _cellState;
+    [_textLabel release];
+    [_detailTextLabel release];
+    [_accessoryView release];
     [super dealloc];
 }
 
-- (NSString*)reuseIdentifier {
-    mainThreadOnly(self, _cmd);
-    return _cellState->reuseIdentifier.get();
-}
-
-- (UIView*)contentView {
-    mainThreadOnly(self, _cmd);
-    return _cellState->contentView.get();
-}
-
 - (UILabel*)textLabel {
-    mainThreadOnly(self, _cmd);
-    if (!_cellState->textLabel) _cellState->textLabel = [self newLabelOfSize:17];
-    return _cellState->textLabel.get();
+    if (_textLabel == nil) _textLabel = [self newLabelOfSize:17];
+    return _textLabel;
 }
 
 - (UILabel*)detailTextLabel {
-    mainThreadOnly(self, _cmd);
-    if (_cellState->style == UITableViewCellStyleDefault) return nil;
-    if (!_cellState->detailLabel)
-        _cellState->detailLabel =
-            [self newLabelOfSize:_cellState->style == UITableViewCellStyleValue1 ? 17 : 12];
-    return _cellState->detailLabel.get();
+    if (_detailTextLabel == nil && _cellStyle != UITableViewCellStyleDefault)
+        _detailTextLabel = [self newLabelOfSize:_cellStyle == UITableViewCellStyleValue1 ? 17 : 12];
+    return _detailTextLabel;
 }
 
-- (Retained<UILabel*>)newLabelOfSize:(CGFloat)pointSize {
+- (UILabel*)newLabelOfSize:(CGFloat)pointSize {
     UILabel* label = [[UILabel alloc] initWithFrame:CGRectZero];
     [label setFont:[UIFont systemFontOfSize:pointSize]];
     [[self contentView] addSubview:label];
     [self setNeedsLayout];
-    return Retained<UILabel*>::adopted(label);
-}
-
-- (UIImageView*)imageView {
-    mainThreadOnly(self, _cmd);
-    if (!_cellState->imageView) {
-        _cellState->imageView =
-            Retained<UIImageView*>::adopted([[UIImageView alloc] initWithFrame:CGRectZero]);
-        [[self contentView] addSubview:_cellState->imageView.get()];
-    }
-    return _cellState->imageView.get();
-}
-
-- (UITableViewCellAccessoryType)accessoryType {
-    mainThreadOnly(self, _cmd);
-    return _cellState->accessoryType;
-}
-
-- (void)setAccessoryType:(UITableViewCellAccessoryType)type {
-    mainThreadOnly(self, _cmd);
-    _cellState->accessoryType = type;
-}
-
-- (UIView*)accessoryView {
-    mainThreadOnly(self, _cmd);
-    return _cellState->accessoryView.get();
+    return label;
 }
 
 - (void)setAccessoryView:(UIView*)view {
-    mainThreadOnly(self, _cmd);
-    [_cellState->accessoryView.get() removeFromSuperview];
-    _cellState->accessoryView = view;
+    [_accessoryView removeFromSuperview];
+    [_accessoryView autorelease];
+    _accessoryView = [view retain];
     [self addSubview:view];
-}
-
-- (BOOL)isSelected {
-    mainThreadOnly(self, _cmd);
-    return _cellState->selected ? YES : NO;
-}
-
-- (void)setSelected:(BOOL)selected {
-    mainThreadOnly(self, _cmd);
-    _cellState->selected = selected;
-}
-
-- (void)prepareForReuse {
-    mainThreadOnly(self, _cmd);
-    _cellState->selected = false;
 }
 
 - (void)layoutSubviews {
     [super layoutSubviews];
     const CGSize size = [self bounds].size;
-    if (UIView* accessory = [self accessoryView]) {
-        const CGSize own = [accessory bounds].size;
-        [accessory setCenter:CGPointMake(size.width - margin - own.width / 2, size.height / 2)];
-    }
-    CGFloat left = margin;
-    if (UIImage* image = [_cellState->imageView.get() image]) {
-        const CGSize own = [_cellState->imageView.get() sizeThatFits:CGSizeZero];
-        [_cellState->imageView.get()
-            setFrame:CGRectMake(left, (size.height - own.height) / 2, own.width, own.height)];
-        left += image ? own.width + margin : 0;
-    }
-    const CGFloat width = std::max<CGFloat>(size.width - left - accessoryWidth, 0);
-    UILabel* title = _cellState->textLabel.get();
-    UILabel* detail = _cellState->detailLabel.get();
-    if ([[detail text] length] == 0) {
-        [title setFrame:CGRectMake(left, 0, width, size.height)];
-        [detail setFrame:CGRectZero];
-    } else if (_cellState->style == UITableViewCellStyleValue1) {
-        const CGFloat detailWidth = std::min([detail sizeThatFits:CGSizeZero].width, width / 2);
-        [title setFrame:CGRectMake(left, 0, width - detailWidth, size.height)];
-        [detail setFrame:CGRectMake(left + width - detailWidth, 0, detailWidth, size.height)];
+    const CGSize accessory = _accessoryView != nil ? [_accessoryView bounds].size : CGSizeZero;
+    [_accessoryView setCenter:CGPointMake(size.width - margin - accessory.width / 2, size.height / 2)];
+    const CGFloat width = std::max<CGFloat>(size.width - margin - accessoryWidth, 0);
+    if ([[_detailTextLabel text] length] == 0) {
+        [_textLabel setFrame:CGRectMake(margin, 0, width, size.height)];
+        [_detailTextLabel setFrame:CGRectZero];
+    } else if (_cellStyle == UITableViewCellStyleValue1) {
+        const CGFloat detailWidth = std::min([_detailTextLabel sizeThatFits:CGSizeZero].width, width / 2);
+        [_textLabel setFrame:CGRectMake(margin, 0, width - detailWidth, size.height)];
+        [_detailTextLabel setFrame:CGRectMake(margin + width - detailWidth, 0, detailWidth, size.height)];
     } else {
         const CGFloat titleHeight = size.height * 0.6;
-        [title setFrame:CGRectMake(left, 0, width, titleHeight)];
-        [detail setFrame:CGRectMake(left, titleHeight, width, size.height - titleHeight)];
+        [_textLabel setFrame:CGRectMake(margin, 0, width, titleHeight)];
+        [_detailTextLabel setFrame:CGRectMake(margin, titleHeight, width, size.height - titleHeight)];
     }
 }
 

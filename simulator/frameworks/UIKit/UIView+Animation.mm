@@ -1,9 +1,42 @@
 #import "UIKit/UIView.h"
 
-#import "UIKit/internal/AnimatedViews.h"
-#import "UIKit/internal/MainThread.h"
 #import "UIKit/internal/Ownership.h"
+#import "UIKit/internal/ViewInternals.h"
 #include "device/clock.h"
+
+#include <vector>
+
+namespace simulator {
+
+namespace {
+
+using Views = std::vector<Retained<UIView*>>;
+
+// Where the innermost animation collects the views that it changes; null where it allows touches, and
+// outside of animations. Main thread only.
+Views* changedViews = nullptr;
+
+// The views that the animations change.
+Views viewsChangedBy(void (^animations)(void), bool allowsTouches) {
+    Views views;
+    Views* const outer = std::exchange(changedViews, allowsTouches ? nullptr : &views);
+    animations();
+    changedViews = outer;
+    return views;
+}
+
+void changeAnimationsOf(const Views& views, NSInteger change) {
+    for (const auto& view : views)
+        [view.get() setAnimationsWithoutTouches:[view.get() animationsWithoutTouches] + change];
+}
+
+} // namespace
+
+void noteChange(UIView* view) {
+    if (changedViews != nullptr) changedViews->emplace_back(view);
+}
+
+} // namespace simulator
 
 @implementation UIView (Animation)
 
@@ -12,30 +45,16 @@
                     options:(UIViewAnimationOptions)options
                  animations:(void (^)(void))animations
                  completion:(void (^)(BOOL finished))completion {
-    simulator::mainThreadOnly(self, _cmd);
-    if (!animations) [NSException raise:NSInvalidArgumentException format:@"animations must not be nil"];
-    std::vector<simulator::Retained<UIView*>> untouchableViews;
-    {
-        const simulator::AnimationScope scope((options & UIViewAnimationOptionAllowUserInteraction) != 0);
-        animations();
-        untouchableViews = scope.untouchableViews();
-    }
-    if (!completion && untouchableViews.empty()) return;
+    if (animations == nil)
+        [NSException raise:NSInvalidArgumentException format:@"animations must not be nil"];
+    const auto views =
+        simulator::viewsChangedBy(animations, options & UIViewAnimationOptionAllowUserInteraction);
+    simulator::changeAnimationsOf(views, 1);
     const simulator::OwnedBlock<void (^)(BOOL)> finish(completion);
-    simulator::clock().after(duration + delay, [finish, untouchableViews] {
-        simulator::endAnimation(untouchableViews);
+    simulator::clock().after(duration + delay, [finish, views] {
+        simulator::changeAnimationsOf(views, -1);
         finish(YES);
     });
-}
-
-+ (void)animateWithDuration:(NSTimeInterval)duration
-                 animations:(void (^)(void))animations
-                 completion:(void (^)(BOOL finished))completion {
-    [self animateWithDuration:duration delay:0 options:0 animations:animations completion:completion];
-}
-
-+ (void)animateWithDuration:(NSTimeInterval)duration animations:(void (^)(void))animations {
-    [self animateWithDuration:duration delay:0 options:0 animations:animations completion:nil];
 }
 
 @end

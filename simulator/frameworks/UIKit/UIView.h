@@ -3,16 +3,10 @@
 
 #import "CoreGraphics/CoreGraphics.h"
 #import "QuartzCore/QuartzCore.h"
-#import "UIKit/UIResponder.h"
 
 @class UIColor, UIGestureRecognizer, UIViewController, UIWindow;
 
-namespace simulator {
-struct ViewState;
-}
-
 typedef NS_OPTIONS(NSUInteger, UIViewAutoresizing) {
-    UIViewAutoresizingNone = 0,
     UIViewAutoresizingFlexibleLeftMargin = 1 << 0,
     UIViewAutoresizingFlexibleWidth = 1 << 1,
     UIViewAutoresizingFlexibleRightMargin = 1 << 2,
@@ -22,27 +16,32 @@ typedef NS_OPTIONS(NSUInteger, UIViewAutoresizing) {
 };
 
 typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
-    UIViewAnimationOptionLayoutSubviews = 1 << 0,
     UIViewAnimationOptionAllowUserInteraction = 1 << 1,
-    UIViewAnimationOptionBeginFromCurrentState = 1 << 2,
-    UIViewAnimationOptionRepeat = 1 << 3,
-    UIViewAnimationOptionAutoreverse = 1 << 4,
-    UIViewAnimationOptionCurveEaseInOut = 0 << 16,
-    UIViewAnimationOptionCurveEaseIn = 1 << 16,
-    UIViewAnimationOptionCurveEaseOut = 2 << 16,
-    UIViewAnimationOptionCurveLinear = 3 << 16,
 };
 
-typedef NS_ENUM(NSInteger, UIViewContentMode) {
-    UIViewContentModeScaleToFill = 0,
-    UIViewContentModeScaleAspectFit = 1,
-    UIViewContentModeScaleAspectFill = 2,
-    UIViewContentModeCenter = 4,
-};
+// Whatever can take part in the handling of events: views, controllers and the application.
+@interface UIResponder : NSObject
+@end
 
 @interface UIView : UIResponder {
   @private
-    simulator::ViewState* _viewState;
+    CGRect _bounds;
+    CGPoint _center;
+    UIView* _superview;                // not retained: it retains this view
+    NSMutableArray* _subviews;         // from the back to the front
+    UIViewController* _viewController; // not retained: it retains this view
+    CALayer* _layer;
+    UIColor* _backgroundColor;
+    NSMutableArray* _gestureRecognizers;
+    NSInteger _tag;
+    CGFloat _alpha;
+    UIViewAutoresizing _autoresizingMask;
+    NSInteger _animationsWithoutTouches; // that are under way
+    BOOL _autoresizesSubviews;
+    BOOL _hidden;
+    BOOL _opaque;
+    BOOL _userInteractionEnabled;
+    BOOL _needsLayout;
 }
 
 - (instancetype)initWithFrame:(CGRect)frame;
@@ -51,10 +50,9 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 @property (nonatomic) CGRect frame;
 @property (nonatomic) CGRect bounds;
 @property (nonatomic) CGPoint center;
+// Between the view and another one, or its window for nil.
 - (CGPoint)convertPoint:(CGPoint)point toView:(UIView*)view;
 - (CGPoint)convertPoint:(CGPoint)point fromView:(UIView*)view;
-- (CGRect)convertRect:(CGRect)rect toView:(UIView*)view;
-- (CGRect)convertRect:(CGRect)rect fromView:(UIView*)view;
 
 @property (nonatomic) NSInteger tag;
 // The receiver itself or the first view below it, at any depth, that has the tag; nil when there is none.
@@ -65,18 +63,9 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 @property (nonatomic, readonly, assign) UIWindow* window;
 - (void)addSubview:(UIView*)view;
 - (void)insertSubview:(UIView*)view atIndex:(NSInteger)index;
-- (void)insertSubview:(UIView*)view belowSubview:(UIView*)sibling;
-- (void)insertSubview:(UIView*)view aboveSubview:(UIView*)sibling;
 - (void)bringSubviewToFront:(UIView*)view;
-- (void)sendSubviewToBack:(UIView*)view;
 - (void)removeFromSuperview;
 - (BOOL)isDescendantOfView:(UIView*)view;
-- (void)didAddSubview:(UIView*)subview;
-- (void)willRemoveSubview:(UIView*)subview;
-- (void)willMoveToSuperview:(UIView*)superview;
-- (void)didMoveToSuperview;
-- (void)willMoveToWindow:(UIWindow*)window;
-- (void)didMoveToWindow;
 
 @property (nonatomic, readonly, retain) CALayer* layer;
 @property (nonatomic, getter=isHidden) BOOL hidden;
@@ -84,30 +73,23 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 @property (nonatomic, getter=isOpaque) BOOL opaque;
 @property (nonatomic) BOOL clipsToBounds;
 @property (nonatomic, retain) UIColor* backgroundColor;
-@property (nonatomic, retain) UIColor* tintColor;
-@property (nonatomic) UIViewContentMode contentMode;
 @property (nonatomic, getter=isUserInteractionEnabled) BOOL userInteractionEnabled;
-@property (nonatomic, copy) NSString* accessibilityIdentifier;
-@property (nonatomic, copy) NSString* accessibilityLabel;
 
 @property (nonatomic) UIViewAutoresizing autoresizingMask;
 @property (nonatomic) BOOL autoresizesSubviews;
 
+// At the end of this turn of the main run loop, once however often asked for.
 - (void)setNeedsLayout;
+// Lays out the receiver and everything below it until nothing asks for layout any more.
 - (void)layoutIfNeeded;
 - (void)layoutSubviews;
-- (void)setNeedsDisplay;
-- (CGSize)sizeThatFits:(CGSize)size;
-- (void)sizeToFit;
 
 @property (nonatomic, readonly) NSArray* gestureRecognizers;
 - (void)addGestureRecognizer:(UIGestureRecognizer*)recognizer;
-- (void)removeGestureRecognizer:(UIGestureRecognizer*)recognizer;
 
 // The deepest visible view under a point of the receiver's own coordinates that takes touches, or nil. The
 // event is always nil here.
 - (UIView*)hitTest:(CGPoint)point withEvent:(id)event;
-- (BOOL)pointInside:(CGPoint)point withEvent:(id)event;
 
 // The controller whose view this is, or that of the nearest view above that has one.
 - (UIViewController*)_viewControllerForAncestor;
@@ -124,9 +106,5 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
                     options:(UIViewAnimationOptions)options
                  animations:(void (^)(void))animations
                  completion:(void (^)(BOOL finished))completion;
-+ (void)animateWithDuration:(NSTimeInterval)duration
-                 animations:(void (^)(void))animations
-                 completion:(void (^)(BOOL finished))completion;
-+ (void)animateWithDuration:(NSTimeInterval)duration animations:(void (^)(void))animations;
 
 @end

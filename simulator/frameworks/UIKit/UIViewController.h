@@ -2,7 +2,6 @@
 // top.
 #pragma once
 
-#import "UIKit/UIResponder.h"
 #import "UIKit/UIView.h"
 
 @class UINavigationController, UINavigationItem, UIPopoverPresentationController, UITabBarController,

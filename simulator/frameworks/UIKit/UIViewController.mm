@@ -6,7 +6,7 @@
 #import "UIKit/UIScreen.h"
 #import "UIKit/UITabBarController.h"
 #import "UIKit/internal/Containers.h"
-#import "UIKit/internal/ViewState.h"
+#import "UIKit/internal/ViewInternals.h"
 
 #include <initializer_list>
 
@@ -63,11 +63,11 @@ template <typename Controller> Controller* enclosing(UIViewController* controlle
 }
 
 - (void)setView:(UIView*)view {
-    if (_view != nil) [_view viewState].controller = nil;
+    if (_view != nil) [_view setViewController:nil];
     [view retain];
     [_view release];
     _view = view;
-    if (view != nil) [view viewState].controller = self;
+    if (view != nil) [view setViewController:self];
 }
 
 - (UIView*)viewIfLoaded {

@@ -4,9 +4,9 @@
 #import "UIKit/internal/ActionTargets.h"
 #import "UIKit/internal/Casts.h"
 #import "UIKit/internal/Containers.h"
-#import "UIKit/internal/LayoutQueue.h"
 #import "UIKit/internal/RecognizerState.h"
-#import "UIKit/internal/Strings.h"
+#import "UIKit/internal/ViewInternals.h"
+#include "device/strings.h"
 
 #include <stdexcept>
 
@@ -58,7 +58,7 @@ UIView* longPress(UIView* view, double seconds) { return touchAtMiddle(view, Tou
 
 void tapBarButton(std::string_view title) {
     for (UIBarButtonItem* item in barButtonItems()) {
-        if (toStd([item title]) != title) continue;
+        if (text([item title]) != title) continue;
         const Retained<UIBarButtonItem*> alive(item);
         sendAction([item target], [item action], item);
         return layoutWindows();
@@ -70,13 +70,13 @@ void typeText(std::size_t fieldIndex, std::string_view text) {
     NSArray* fields = [frontAlert() textFields];
     if (fieldIndex >= [fields count])
         throw std::invalid_argument("there is no text field " + std::to_string(fieldIndex));
-    [[fields objectAtIndex:fieldIndex] setText:toNS(text)];
+    [[fields objectAtIndex:fieldIndex] setText:string(std::string(text))];
 }
 
 void tapAlertAction(std::string_view title) {
     UIAlertController* alert = frontAlert();
     for (UIAlertAction* action in [alert actions]) {
-        if (toStd([action title]) != title || ![action isEnabled]) continue;
+        if (text([action title]) != title || ![action isEnabled]) continue;
         [alert tapAction:action];
         return layoutWindows();
     }

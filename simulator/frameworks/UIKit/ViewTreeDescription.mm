@@ -1,9 +1,8 @@
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
 #import "UIKit/internal/Casts.h"
-#import "UIKit/internal/ImagePixels.h"
-#import "UIKit/internal/LayoutQueue.h"
-#import "UIKit/internal/Strings.h"
+#import "UIKit/internal/ViewInternals.h"
+#include "device/strings.h"
 
 namespace simulator {
 
@@ -11,8 +10,8 @@ namespace {
 
 using nlohmann::json;
 
-std::string className(id object) { return toStd(NSStringFromClass([object class])); }
-json textOrNull(NSString* text) { return text != nil ? json(toStd(text)) : json(); }
+std::string className(id object) { return text(NSStringFromClass([object class])); }
+json textOrNull(NSString* string) { return string != nil ? json(text(string)) : json(); }
 json asJson(CGRect rect) { return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height}; }
 
 json asJson(UIImage* image) {
@@ -52,7 +51,7 @@ json asJson(UIAlertController* alert) {
                                           {"style", actionStyles[[action style]]},
                                           {"enabled", [action isEnabled] != NO}});
     for (UITextField* field in [alert textFields])
-        description["textFields"].push_back({{"text", toStd([field text])},
+        description["textFields"].push_back({{"text", text([field text])},
                                              {"placeholder", textOrNull([field placeholder])},
                                              {"secure", [field isSecureTextEntry] != NO}});
     return description;
@@ -65,7 +64,7 @@ json viewAsJson(UIView* view) {
         {"class", className(view)}, {"frame", asJson([view frame])}, {"subviews", json::array()}};
     describeState(view, description);
     if (UILabel* label = as<UILabel>(view)) description["text"] = textOrNull([label text]);
-    if (UITextField* field = as<UITextField>(view)) description["text"] = toStd([field text]);
+    if (UITextField* field = as<UITextField>(view)) description["text"] = text([field text]);
     if (UIImageView* picture = as<UIImageView>(view)) description["image"] = asJson([picture image]);
     for (UIView* subview in [view subviews])
         description["subviews"].push_back(viewAsJson(subview));

@@ -1,4 +1,4 @@
-#import "simulator/uikit/uikit_test.h"
+#include "simulator/uikit/uikit_fixture.h"
 
 namespace simulator::test {
 
@@ -26,7 +26,6 @@ TEST_F(Alert, has_gone_when_the_tapped_action_runs_and_raises_where_the_device_d
     EXPECT_EQ(exceptionOf([&] { [alert addAction:action]; }), inconsistent) << "a second cancel button";
     EXPECT_EQ(exceptionOf([&] { [next addTextFieldWithConfigurationHandler:nil]; }), inconsistent);
     [root() presentViewController:alert animated:YES completion:nil];
-    EXPECT_NE(errorOf([] { tapAlertAction("Missing"); }), "");
     tapAlertAction("Next");
     EXPECT_EQ(frontAlert(), next) << "a phone's sheet needs nothing to point at";
 }

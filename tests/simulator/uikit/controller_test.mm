@@ -1,4 +1,39 @@
-#import "simulator/uikit/uikit_test.h"
+#include "simulator/uikit/uikit_fixture.h"
+
+// Notes each appearance as "NAME will appear" and the like.
+@interface NotingController : UIViewController {
+  @public
+    Listener* listener;
+}
+@end
+
+@implementation NotingController
+
+- (void)note:(NSString*)event {
+    [listener note:[[self title] stringByAppendingString:event]];
+}
+
+- (void)viewWillAppear:(BOOL)animated {
+    [super viewWillAppear:animated];
+    [self note:@" will appear"];
+}
+
+- (void)viewDidAppear:(BOOL)animated {
+    [super viewDidAppear:animated];
+    [self note:@" did appear"];
+}
+
+- (void)viewWillDisappear:(BOOL)animated {
+    [super viewWillDisappear:animated];
+    [self note:@" will disappear"];
+}
+
+- (void)viewDidDisappear:(BOOL)animated {
+    [super viewDidDisappear:animated];
+    [self note:@" did disappear"];
+}
+
+@end
 
 namespace simulator::test {
 
@@ -9,15 +44,14 @@ using Texts = std::vector<std::string>;
 class Controllers : public UIKitClockTest {
   protected:
     NotingController* make(NSString* name) {
-        return [NotingController controllerNamed:name listener:listener()];
+        auto* controller = [[[NotingController alloc] init] autorelease];
+        [controller setTitle:name];
+        controller->listener = listener();
+        return controller;
     }
 
-    // What was noted since the last call, without layouts.
-    Texts events() {
-        Texts events = std::exchange(notes(), {});
-        std::erase_if(events, [](const std::string& each) { return each.ends_with("did lay out"); });
-        return events;
-    }
+    // What was noted since the last call.
+    Texts events() { return std::exchange(notes(), {}); }
 };
 
 TEST_F(Controllers, are_presented_at_once_and_told_when_the_transition_is_over) {

@@ -1,4 +1,4 @@
-#import "simulator/uikit/uikit_test.h"
+#include "simulator/uikit/uikit_fixture.h"
 
 namespace simulator::test {
 

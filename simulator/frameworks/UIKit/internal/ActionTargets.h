@@ -1,23 +1,16 @@
-// Targets and actions, as controls, gesture recognisers and bar items call them.
+// Actions, as controls, gesture recognisers and bar items call them.
 #pragma once
 
 #import "UIKit/internal/Ownership.h"
 
 namespace simulator {
 
-struct ActionTarget {
-    Weak target;
-    SEL action = nullptr;
-    NSUInteger events = 0; // which events of a control; unused elsewhere
-
-    bool matches(id otherTarget, SEL otherAction) const {
-        return (!otherTarget || target.get() == otherTarget) &&
-               (!otherAction || sel_isEqual(action, otherAction));
-    }
-};
-
-// Calls the action with the sender. An action that takes nothing ignores it. A target that has gone is
-// skipped.
-void sendAction(id target, SEL action, id sender);
+// Calls the action with the sender. An action that takes nothing ignores it.
+inline void sendAction(id target, SEL action, id sender) {
+    if (target == nil || action == nullptr) return;
+    const Retained<> alive(target); // the action may take away the last other reference
+    // Actions take up to two arguments, the second being an event.
+    [target performSelector:action withObject:sender withObject:nil];
+}
 
 } // namespace simulator

@@ -33,9 +33,3 @@ void deliver(const Touch& touch);
 - (void)goThrough:(std::initializer_list<UIGestureRecognizerState>)states;
 
 @end
-
-namespace simulator {
-
-inline void setView(UIGestureRecognizer* recognizer, UIView* view) { [recognizer setView:view]; }
-
-} // namespace simulator

@@ -3,7 +3,6 @@
 #import "UIKit/UIKit.h"
 #import "UIKit/internal/Casts.h"
 #import "UIKit/internal/Ownership.h"
-#import "UIKit/internal/Selection.h"
 
 #include <algorithm>
 #include <vector>
@@ -22,8 +21,7 @@ template <typename View> View* enclosing(UIView* view) {
 bool belongsToControlBelow(UIGestureRecognizer* recognizer, const Touch& touch) {
     if (touch.taps != 1) return false;
     UIControl* control = enclosing<UIControl>(touch.hitView);
-    return control != nil && [control isEnabled] && [recognizer view] != control &&
-           ![[recognizer view] isDescendantOfView:control];
+    return control != nil && [recognizer view] != control && ![[recognizer view] isDescendantOfView:control];
 }
 
 // The recogniser whose gesture this is, from the view that was hit upwards; it shuts others out.
@@ -38,7 +36,6 @@ UIGestureRecognizer* recognizerOf(const Touch& touch) {
 }
 
 void tapControl(UIControl* control, NSUInteger taps) {
-    if (![control isEnabled]) return;
     for (NSUInteger tap = 0; tap < std::max<NSUInteger>(taps, 1); ++tap)
         [control sendActionsForControlEvents:UIControlEventTouchUpInside];
 }

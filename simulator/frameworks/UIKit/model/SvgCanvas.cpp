@@ -23,40 +23,21 @@ std::string paint(const char* what, SvgColor color) {
     return out.str();
 }
 
+struct Entity {
+    char character;
+    const char* reference;
+};
+constexpr Entity entities[] = {{'<', "&lt;"}, {'>', "&gt;"}, {'&', "&amp;"}, {'"', "&quot;"}};
+
 // Control characters have no place in the document, not even escaped.
 std::string escaped(std::string_view text) {
     std::string result;
     for (const char c : text) {
-        switch (c) {
-        case '<':
-            result += "&lt;";
-            break;
-        case '>':
-            result += "&gt;";
-            break;
-        case '&':
-            result += "&amp;";
-            break;
-        case '"':
-            result += "&quot;";
-            break;
-        default:
+        const auto entity = std::ranges::find(entities, c, &Entity::character);
+        if (entity != std::end(entities))
+            result += entity->reference;
+        else
             result += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
-        }
-    }
-    return result;
-}
-
-std::string base64(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string result;
-    for (std::size_t i = 0; i < bytes.size(); i += 3) {
-        const auto rest = bytes.subspan(i, std::min<std::size_t>(3, bytes.size() - i));
-        unsigned group = 0;
-        for (std::size_t k = 0; k < 3; ++k)
-            group = group << 8 | (k < rest.size() ? rest[k] : 0U);
-        for (std::size_t k = 0; k < 4; ++k)
-            result += k <= rest.size() ? digits[group >> (18 - 6 * k) & 63] : '=';
     }
     return result;
 }
@@ -102,9 +83,9 @@ void SvgCanvas::line(CGRect rect, std::string_view text, const SvgText& style) {
     m_out << '>' << escaped(text) << "</text>\n";
 }
 
-void SvgCanvas::picture(CGRect rect, std::span<const std::uint8_t> png) {
+void SvgCanvas::picture(CGRect rect, std::string_view png) {
     m_out << "<image" << attributes(rect)
-          << " preserveAspectRatio=\"none\" xlink:href=\"data:image/png;base64," << base64(png) << "\"/>\n";
+          << " preserveAspectRatio=\"none\" xlink:href=\"data:image/png;base64," << png << "\"/>\n";
 }
 
 std::string SvgCanvas::document() {

@@ -1,11 +1,9 @@
 // Writes an SVG document: rectangles, text and pictures within nested groups.
 #pragma once
 
-#include "CoreGraphics/CGGeometry.h"
+#include "CoreGraphics/CoreGraphics.h"
 
-#include <cstdint>
 #include <optional>
-#include <span>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -40,7 +38,8 @@ class SvgCanvas {
                    std::optional<SvgColor> border = std::nullopt);
     // One line, in the vertical middle of the rectangle.
     void line(CGRect rect, std::string_view text, const SvgText& style);
-    void picture(CGRect rect, std::span<const std::uint8_t> png);
+    // The picture's PNG file in base 64.
+    void picture(CGRect rect, std::string_view png);
 
     // Ends the document.
     std::string document();

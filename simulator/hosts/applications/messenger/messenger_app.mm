@@ -63,7 +63,6 @@
 }
 
 - (void)tableView:(UITableView*)table didSelectRowAtIndexPath:(NSIndexPath*)path {
-    [table deselectRowAtIndexPath:path animated:NO];
     [self setChosenAlbum:[self _albumAtIndexPath:path]];
 }
 

@@ -1,8 +1,0 @@
-// How a collection names its cells.
-#pragma once
-
-#import "UIKit/UICollectionView.h"
-
-@interface UICollectionReusableView (Reuse)
-- (void)setReuseIdentifier:(NSString*)identifier;
-@end
