@@ -67,7 +67,6 @@ const Exception differing[] = {
     {"PHAsset", "hidden"},
     // String encodings are 32 bits wide in GNUstep's Foundation; they travel in a register all the same.
     {"NSString", "stringWithContentsOfFile:encoding:error:"},
-    {"NSString", "initWithContentsOfFile:encoding:error:"},
     {"NSString", "writeToFile:atomically:encoding:error:"},
 };
 
@@ -95,7 +94,7 @@ TEST_F(Signatures, methods_have_the_types_of_the_device) {
         }
         EXPECT_EQ(asOnTheDevice(method_getTypeEncoding(method)), withoutQualifiers(row.encoding)) << name;
     }
-    EXPECT_GT(compared, 300);
+    EXPECT_GT(compared, 250);
 }
 
 // A replacement of an inherited method must become an override on the class alone: the hosts' classes have to
