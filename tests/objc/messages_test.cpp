@@ -1,5 +1,4 @@
 // Messages, constants and enumeration: what the typed wrappers are made of.
-#include "counted_object.h"
 #include "objc/autorelease_pool.h"
 #include "platform/foundation.h"
 #include "platform/uikit.h"
@@ -59,18 +58,6 @@ TEST_F(Messages, tell_kinds_apart) {
     EXPECT_FALSE(ifKindOf<NSArray>("text"_ns));
     EXPECT_TRUE("text"_ns.respondsTo<"length">());
     EXPECT_FALSE("text"_ns.respondsTo<"objectAtIndex:">());
-}
-
-TEST_F(Messages, leave_nil_out_where_the_platform_would_raise) {
-    const Owner<NSMutableArray> array = make<NSMutableArray>();
-    array->addObject(Object());
-    array->insertObject(Object(), 0);
-    const Owner<NSMutableSet> set = make<NSMutableSet>();
-    set->addObject(Object());
-    const Owner<NSMutableDictionary> dictionary = make<NSMutableDictionary>();
-    dictionary->setObject(Object(), "key"_ns);
-    EXPECT_EQ(array->count(), 0U);
-    EXPECT_EQ(dictionary->allKeys().count(), 0U);
 }
 
 TEST_F(Messages, enumerate_every_element_once) {
