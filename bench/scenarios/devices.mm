@@ -2,6 +2,8 @@
 #include "photolibrary/library.h"
 #include "scenarios/scenarios.h"
 
+#include <nlohmann/json.hpp>
+
 #include <random>
 #include <stdexcept>
 

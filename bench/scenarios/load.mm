@@ -5,6 +5,8 @@
 
 #import "Hooking/Hooking.h"
 
+#include <nlohmann/json.hpp>
+
 #include <dlfcn.h>
 
 #include <stdexcept>

@@ -2,67 +2,46 @@
 
 #include "device/root.h"
 
+#include <nlohmann/json.hpp>
 #include <sys/stat.h>
 
-#include <array>
 #include <fstream>
-#include <functional>
 #include <mutex>
 #include <stdexcept>
-#include <utility>
+
+// Null while not set.
+template <> struct nlohmann::adl_serializer<std::optional<double>> {
+    static void to_json(json& object, const std::optional<double>& value) {
+        object = value ? json(*value) : json();
+    }
+    static void from_json(const json& object, std::optional<double>& value) {
+        if (!object.is_null()) value = object.get<double>();
+    }
+};
 
 namespace simulator {
-namespace {
 
 using nlohmann::json;
 
-template <class Value, std::size_t size> using Names = std::array<std::pair<Value, const char*>, size>;
-
-constexpr Names<Idiom, 2> idiomNames = {{{Idiom::phone, "phone"}, {Idiom::pad, "pad"}}};
-constexpr Names<BiometricOutcome, 6> outcomeNames = {
-    {{BiometricOutcome::success, "success"},
-     {BiometricOutcome::failed, "failed"},
-     {BiometricOutcome::userCancel, "userCancel"},
-     {BiometricOutcome::userFallback, "userFallback"},
-     {BiometricOutcome::notAvailable, "notAvailable"},
-     {BiometricOutcome::refusedWithoutError, "refusedWithoutError"}}};
-
-template <class Value, std::size_t size> std::string nameOf(const Names<Value, size>& names, Value value) {
-    for (const auto& [candidate, name] : names)
-        if (candidate == value) return name;
-    throw std::invalid_argument("conditions: a value has no name");
+static void to_json(json& object, Release release) { object = releaseName(release); }
+static void from_json(const json& object, Release& release) {
+    release = releaseNamed(object.get<std::string>()).value_or(release);
 }
 
-template <class Value, std::size_t size> Value valueOf(const Names<Value, size>& names, const json& name) {
-    for (const auto& [value, candidate] : names)
-        if (name == candidate) return value;
-    throw std::invalid_argument("unknown value " + name.dump());
-}
+// clang-format off
+NLOHMANN_JSON_SERIALIZE_ENUM(Idiom, {{Idiom::phone, "phone"}, {Idiom::pad, "pad"}})
+NLOHMANN_JSON_SERIALIZE_ENUM(BiometricOutcome, {
+    {BiometricOutcome::success, "success"}, {BiometricOutcome::failed, "failed"},
+    {BiometricOutcome::userCancel, "userCancel"}, {BiometricOutcome::userFallback, "userFallback"},
+    {BiometricOutcome::notAvailable, "notAvailable"}, {BiometricOutcome::refusedWithoutError, "refusedWithoutError"}})
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Screen, width, height, scale)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Faults, diskFull, missing, unreadable, refuseLibraryChanges)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(HookingStyle, slotWrittenFirst, inheritedResolvedLate)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Conditions, release, coreFoundationVersion, screen, idiom,
+                                                biometricOutcome, hapticEngine, manualClock, faults, hooking)
+// clang-format on
 
-Release releaseFrom(const json& name) {
-    const std::optional<Release> release = releaseNamed(name.get<std::string>());
-    if (!release) throw std::invalid_argument("unknown release " + name.dump());
-    return *release;
-}
-
-using Readers = std::vector<std::pair<std::string_view, std::function<void(const json&)>>>;
-
-template <class Value> std::function<void(const json&)> into(Value& target) {
-    return [&target](const json& value) { value.get_to(target); };
-}
-
-void read(const json& object, const std::string& name, const Readers& readers) {
-    if (!object.is_object()) throw std::invalid_argument("conditions: " + name + " is no object");
-    for (const auto& [key, value] : object.items()) {
-        const auto reader = std::ranges::find(readers, std::string_view(key), &Readers::value_type::first);
-        if (reader == readers.end()) throw std::invalid_argument("conditions: unknown field " + key);
-        try {
-            reader->second(value);
-        } catch (const std::exception& error) {
-            throw std::invalid_argument("conditions: " + key + ": " + error.what());
-        }
-    }
-}
+namespace {
 
 // The conditions as last read, with what tells that the file is still the same.
 struct Cache {
@@ -80,71 +59,25 @@ Cache& cache() {
 
 } // namespace
 
-json toJson(const Conditions& conditions) {
-    json result = {
-        {"release", releaseName(conditions.release)},
-        {"screen",
-         {{"width", conditions.screen.width},
-          {"height", conditions.screen.height},
-          {"scale", conditions.screen.scale}}},
-        {"idiom", nameOf(idiomNames, conditions.idiom)},
-        {"biometricOutcome", nameOf(outcomeNames, conditions.biometricOutcome)},
-        {"hapticEngine", conditions.hapticEngine},
-        {"manualClock", conditions.manualClock},
-        {"faults",
-         {{"diskFull", conditions.faults.diskFull},
-          {"missing", conditions.faults.missing},
-          {"unreadable", conditions.faults.unreadable},
-          {"refuseLibraryChanges", conditions.faults.refuseLibraryChanges}}},
-        {"hooking",
-         {{"slotWrittenFirst", conditions.hooking.slotWrittenFirst},
-          {"inheritedResolvedLate", conditions.hooking.inheritedResolvedLate}}},
-    };
-    if (conditions.coreFoundationVersion) result["coreFoundationVersion"] = *conditions.coreFoundationVersion;
-    return result;
-}
+json toJson(const Conditions& conditions) { return conditions; }
 
+// What does not come out again as it was given has an unknown name or a wrong value.
 Conditions conditionsFromJson(const json& object) {
-    Conditions result;
-    read(object, "the whole",
-         {{"release", [&](const json& value) { result.release = releaseFrom(value); }},
-          {"coreFoundationVersion",
-           [&](const json& value) { result.coreFoundationVersion = value.get<double>(); }},
-          {"screen",
-           [&](const json& value) {
-               read(value, "screen",
-                    {{"width", into(result.screen.width)},
-                     {"height", into(result.screen.height)},
-                     {"scale", into(result.screen.scale)}});
-           }},
-          {"idiom", [&](const json& value) { result.idiom = valueOf(idiomNames, value); }},
-          {"biometricOutcome",
-           [&](const json& value) { result.biometricOutcome = valueOf(outcomeNames, value); }},
-          {"hapticEngine", into(result.hapticEngine)},
-          {"manualClock", into(result.manualClock)},
-          {"faults",
-           [&](const json& value) {
-               read(value, "faults",
-                    {{"diskFull", into(result.faults.diskFull)},
-                     {"missing", into(result.faults.missing)},
-                     {"unreadable", into(result.faults.unreadable)},
-                     {"refuseLibraryChanges", into(result.faults.refuseLibraryChanges)}});
-           }},
-          {"hooking", [&](const json& value) {
-               read(value, "hooking",
-                    {{"slotWrittenFirst", into(result.hooking.slotWrittenFirst)},
-                     {"inheritedResolvedLate", into(result.hooking.inheritedResolvedLate)}});
-           }}});
-    return result;
+    const auto conditions = object.get<Conditions>();
+    const json given = object.flatten();
+    const json understood = json(conditions).flatten();
+    for (const auto& [field, value] : given.items())
+        if (!understood.contains(field) || understood[field] != value)
+            throw std::invalid_argument("conditions: " + field + " cannot be " + value.dump());
+    return conditions;
 }
 
 std::shared_ptr<const Conditions> currentConditions() {
     Cache& cached = cache();
-    const std::filesystem::path folder = mountedDevice();
+    const std::filesystem::path file = mountedDevice() / "conditions.json";
     const std::lock_guard guard(cached.lock);
-    const std::string file = folder.empty() ? std::string() : (folder / "conditions.json").string();
     struct stat facts{};
-    if (file.empty() || stat(file.c_str(), &facts) != 0) {
+    if (file.is_relative() || stat(file.c_str(), &facts) != 0) {
         static const auto defaults = std::make_shared<const Conditions>();
         return defaults;
     }
@@ -153,9 +86,7 @@ std::shared_ptr<const Conditions> currentConditions() {
                       facts.st_mtim.tv_nsec == cached.modified.tv_nsec;
     if (same) return cached.conditions;
     std::ifstream stream(file);
-    const json content = json::parse(stream, nullptr, false);
-    if (content.is_discarded()) throw std::invalid_argument(file + " is no JSON");
-    cached.conditions = std::make_shared<const Conditions>(conditionsFromJson(content));
+    cached.conditions = std::make_shared<const Conditions>(conditionsFromJson(json::parse(stream)));
     cached.file = file;
     cached.inode = facts.st_ino;
     cached.modified = facts.st_mtim;

@@ -4,7 +4,7 @@
 
 #include "device/releases.h"
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include <filesystem>
 #include <memory>

@@ -4,7 +4,7 @@
 
 #include "device/conditions.h"
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include <filesystem>
 #include <functional>

@@ -5,6 +5,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include <nlohmann/json.hpp>
+
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -81,13 +83,7 @@ void Device::writePropertyList(std::string_view devicePath, const json& value) c
 json Device::readPropertyList(std::string_view devicePath) const {
     const std::string bytes = readFile(devicePath);
     @autoreleasepool {
-        NSPropertyListFormat format{};
-        NSString* problem = nil;
-        id value = [NSPropertyListSerialization propertyListFromData:[NSData dataWithBytes:bytes.data()
-                                                                                    length:bytes.size()]
-                                                    mutabilityOption:NSPropertyListImmutable
-                                                              format:&format
-                                                    errorDescription:&problem];
+        id value = propertyListIn([NSData dataWithBytes:bytes.data() length:bytes.size()]);
         if (value == nil) throw std::invalid_argument(std::string(devicePath) + " is no property list");
         return jsonFromObject(value);
     }

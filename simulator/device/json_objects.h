@@ -3,7 +3,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 namespace simulator {
 

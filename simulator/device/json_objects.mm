@@ -1,5 +1,9 @@
 #include "device/json_objects.h"
 
+#include "device/strings.h"
+
+#include <nlohmann/json.hpp>
+
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -8,20 +12,11 @@ namespace simulator {
 
 using nlohmann::json;
 
-namespace {
-
-NSString* toString(const std::string& text) {
-    NSString* made = [[[NSString alloc] initWithBytes:text.data()
-                                               length:text.size()
-                                             encoding:NSUTF8StringEncoding] autorelease];
-    if (made == nil) throw std::invalid_argument("a text is no UTF-8");
-    return made;
-}
-
-} // namespace
-
 id objectFromJson(const json& value) {
-    if (value.is_string()) return toString(value.get<std::string>());
+    if (value.is_string()) {
+        if (NSString* text = simulator::string(value.get<std::string>())) return text;
+        throw std::invalid_argument("a text is no UTF-8");
+    }
     if (value.is_boolean()) return [NSNumber numberWithBool:value.get<bool>() ? YES : NO];
     if (value.is_number_integer()) return [NSNumber numberWithLongLong:value.get<long long>()];
     if (value.is_number_float()) return [NSNumber numberWithDouble:value.get<double>()];
@@ -34,7 +29,7 @@ id objectFromJson(const json& value) {
     if (value.is_object()) {
         NSMutableDictionary* dictionary = [NSMutableDictionary dictionary];
         for (const auto& [key, element] : value.items())
-            [dictionary setObject:objectFromJson(element) forKey:toString(key)];
+            [dictionary setObject:objectFromJson(element) forKey:objectFromJson(key)];
         return dictionary;
     }
     throw std::invalid_argument("a property list cannot hold " + value.dump());

@@ -19,12 +19,10 @@ ObjectCounts livingObjects() {
 }
 
 ObjectCounts growth(const ObjectCounts& before, const ObjectCounts& after) {
-    ObjectCounts grown;
-    for (const auto& [name, count] : after) {
-        const auto found = before.find(name);
-        const int more = count - (found == before.end() ? 0 : found->second);
-        if (more > 0) grown[name] = more;
-    }
+    ObjectCounts grown = after;
+    for (const auto& [name, count] : before)
+        grown[name] -= count;
+    std::erase_if(grown, [](const auto& each) { return each.second <= 0; });
     return grown;
 }
 

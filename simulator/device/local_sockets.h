@@ -2,9 +2,11 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace simulator {
 
@@ -25,22 +27,33 @@ class Descriptor {
     int m_number = -1;
 };
 
-enum class SocketKind { stream, datagram };
-
-// Takes over the path, whoever had it. Throws std::system_error.
-Descriptor listenOn(const std::filesystem::path& path, SocketKind kind);
+// Takes over the path, whoever had it, and makes its folder. Throws std::system_error.
+Descriptor listenOn(const std::filesystem::path& path);
 
 // Empty when nobody listens there.
-Descriptor connectTo(const std::filesystem::path& path, SocketKind kind);
+Descriptor connectTo(const std::filesystem::path& path);
 
 // False when the other end has gone.
 bool sendAll(const Descriptor& socket, std::string_view bytes);
-std::string receiveUntilClosed(const Descriptor& socket);
 // Reads up to a newline, which is left out; nothing when the other end closed before one. `pending` keeps
 // what came after it for the next call.
 std::optional<std::string> receiveLine(const Descriptor& socket, std::string& pending);
 
-// A file name for any text.
-std::string fileNameFor(std::string_view text);
+// Takes what is sent to a path, each message whole and in order, on a thread of its own.
+class Mailbox {
+  public:
+    using Handler = std::function<void(const std::string& message)>;
+
+    Mailbox(std::filesystem::path path, Handler handler);
+    ~Mailbox(); // messages that are on their way are lost
+
+  private:
+    std::filesystem::path m_path;
+    Descriptor m_socket;
+    std::thread m_thread;
+};
+
+// False when no mailbox took it.
+bool sendToMailbox(const std::filesystem::path& path, std::string_view message);
 
 } // namespace simulator

@@ -5,31 +5,24 @@
 namespace simulator {
 namespace {
 
-struct Identity {
-    std::mutex lock;
-    std::string bundleIdentifier;
-};
-
-Identity& identity() {
-    static auto* shared = new Identity;
-    return *shared;
-}
+constinit std::mutex lock;
+[[clang::no_destroy]] std::string identifier;
 
 } // namespace
 
-void setHostBundleIdentifier(std::string identifier) {
-    const std::lock_guard guard(identity().lock);
-    identity().bundleIdentifier = std::move(identifier);
+void setHostBundleIdentifier(std::string bundleIdentifier) {
+    const std::lock_guard guard(lock);
+    identifier = std::move(bundleIdentifier);
 }
 
 std::string hostBundleIdentifier() {
-    const std::lock_guard guard(identity().lock);
-    return identity().bundleIdentifier;
+    const std::lock_guard guard(lock);
+    return identifier;
 }
 
 bool hostIsSandboxed() {
-    const std::string bundleIdentifier = hostBundleIdentifier();
-    return !bundleIdentifier.empty() && bundleIdentifier != "com.apple.springboard";
+    const std::string host = hostBundleIdentifier();
+    return !host.empty() && host != "com.apple.springboard";
 }
 
 } // namespace simulator

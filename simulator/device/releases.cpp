@@ -5,15 +5,15 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <charconv>
 #include <cstddef>
+#include <cstdio>
+#include <map>
 #include <mutex>
 #include <set>
-#include <unordered_map>
+#include <sstream>
 #include <utility>
 
 extern "C" const char signatureTableBytes[];
-extern "C" const char signatureTableEnd[];
 
 namespace simulator {
 namespace {
@@ -38,66 +38,53 @@ constexpr std::array<ReleaseFacts, 9> facts = {{
 
 const ReleaseFacts& factsOf(Release release) { return facts[static_cast<std::size_t>(release)]; }
 
-int orderOf(std::string_view version) {
-    int major = 0;
-    int minor = 0;
-    const char* begin = version.data();
-    const char* end = begin + version.size();
-    const auto afterMajor = std::from_chars(begin, end, major).ptr;
-    if (afterMajor < end) std::from_chars(afterMajor + 1, end, minor);
-    return 100 * major + minor;
-}
-
-std::vector<std::string_view> split(std::string_view text, char separator) {
-    std::vector<std::string_view> parts;
-    for (std::size_t start = 0; start <= text.size();) {
-        const std::size_t end = std::min(text.find(separator, start), text.size());
-        parts.push_back(text.substr(start, end - start));
-        start = end + 1;
-    }
+std::vector<std::string> split(const std::string& text, char separator) {
+    std::vector<std::string> parts;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, separator);)
+        parts.push_back(part);
     return parts;
 }
 
-bool rangeContains(std::string_view range, int order) {
-    const std::size_t dash = range.find('-');
-    const std::string_view last = dash == range.npos ? range : range.substr(dash + 1);
-    return orderOf(range.substr(0, dash)) <= order && order <= orderOf(last);
-}
-
-SignatureRow::Status statusNamed(std::string_view name) {
-    if (name == "found") return SignatureRow::Status::found;
-    return name == "thirdparty" ? SignatureRow::Status::thirdParty : SignatureRow::Status::notFound;
+// A range is "8.0-10.2" or "8.0".
+bool rangeContains(const std::string& range, int order) {
+    int major = 0, minor = 0, lastMajor = 0, lastMinor = 0;
+    if (std::sscanf(range.c_str(), "%d.%d-%d.%d", &major, &minor, &lastMajor, &lastMinor) < 4)
+        lastMajor = major, lastMinor = minor;
+    return 100 * major + minor <= order && order <= 100 * lastMajor + lastMinor;
 }
 
 std::vector<SignatureRow> parseTable() {
-    const std::string_view text(signatureTableBytes,
-                                static_cast<std::size_t>(signatureTableEnd - signatureTableBytes));
     std::vector<SignatureRow> rows;
-    for (const std::string_view line : split(text, '\n')) {
+    for (const std::string& line : split(signatureTableBytes, '\n')) {
         const auto fields = split(line, '\t');
-        if (line.starts_with('#') || fields.size() != 7 || fields[0] == "class") continue;
-        rows.push_back({std::string(fields[0]), fields[1].front(), std::string(fields[2]),
-                        std::string(fields[3]), std::string(fields[4]), std::string(fields[5]),
-                        statusNamed(fields[6])});
+        if (line.starts_with('#') || fields.front() == "class") continue;
+        rows.push_back({fields[0], fields[1].front(), fields[2], fields[3], fields[4], fields[5]});
     }
     return rows;
 }
 
-struct Presence {
+// What a host has beside the classes of the release.
+struct Frameworks {
     std::mutex lock;
-    std::unordered_map<std::string_view, const SignatureRow*> classRows;
-    std::vector<std::pair<std::string, std::string>> frameworksByPrefix;
-    std::optional<std::set<std::string>> loadedFrameworks;
+    std::vector<std::pair<std::string, std::string>> byPrefix;
+    std::optional<std::set<std::string>> loaded;
 };
 
-Presence& presence() {
-    static Presence& shared = *[] {
-        auto* made = new Presence;
+Frameworks& frameworks() {
+    static auto* shared = new Frameworks;
+    return *shared;
+}
+
+bool releaseHasClass(std::string_view name) {
+    static const auto& rows = *[] {
+        auto* made = new std::map<std::string_view, const SignatureRow*>;
         for (const SignatureRow& row : signatureTable())
-            if (row.kind == 'c') made->classRows.emplace(row.className, &row);
+            if (row.kind == 'c') made->emplace(row.className, &row);
         return made;
     }();
-    return shared;
+    const auto row = rows.find(name);
+    return row == rows.end() || row->second->existsIn(currentRelease());
 }
 
 std::atomic<Release> running = Release::ios10_3;
@@ -107,9 +94,8 @@ std::atomic<Release> running = Release::ios10_3;
 std::string_view releaseName(Release release) { return factsOf(release).name; }
 
 std::optional<Release> releaseNamed(std::string_view name) {
-    for (const Release release : allReleases)
-        if (factsOf(release).name == name) return release;
-    return std::nullopt;
+    const auto found = std::ranges::find(allReleases, name, releaseName);
+    return found == std::end(allReleases) ? std::nullopt : std::optional(*found);
 }
 
 double coreFoundationVersion(Release release) { return factsOf(release).coreFoundationVersion; }
@@ -122,44 +108,42 @@ void setCurrentRelease(Release release) {
 }
 
 bool SignatureRow::existsIn(Release release) const {
-    if (release == Release::complete) return true;
-    const int order = factsOf(release).order;
-    return !releases.empty() && std::ranges::any_of(split(releases, ','), [&](std::string_view range) {
-        return rangeContains(range, order);
-    });
+    return release == Release::complete ||
+           std::ranges::any_of(split(releases, ','), [&](const std::string& range) {
+               return rangeContains(range, factsOf(release).order);
+           });
 }
 
 std::span<const SignatureRow> signatureTable() {
-    static const std::vector<SignatureRow>& table = *new std::vector<SignatureRow>(parseTable());
+    static const auto& table = *new std::vector<SignatureRow>(parseTable());
     return table;
 }
 
 bool classIsPresent(std::string_view name) {
-    Presence& known = presence();
+    if (!releaseHasClass(name)) return false;
+    Frameworks& known = frameworks();
     const std::lock_guard guard(known.lock);
-    const auto row = known.classRows.find(name);
-    if (row != known.classRows.end() && !row->second->existsIn(currentRelease())) return false;
-    if (!known.loadedFrameworks) return true;
+    if (!known.loaded) return true;
     bool isClaimed = false;
-    for (const auto& [prefix, framework] : known.frameworksByPrefix) {
+    for (const auto& [prefix, framework] : known.byPrefix) {
         if (!name.starts_with(prefix)) continue;
-        if (known.loadedFrameworks->contains(framework)) return true;
+        if (known.loaded->contains(framework)) return true;
         isClaimed = true;
     }
     return !isClaimed;
 }
 
 void registerFramework(std::string_view framework, const std::vector<std::string>& prefixes) {
-    Presence& known = presence();
+    Frameworks& known = frameworks();
     const std::lock_guard guard(known.lock);
     for (const std::string& prefix : prefixes)
-        known.frameworksByPrefix.emplace_back(prefix, framework);
+        known.byPrefix.emplace_back(prefix, framework);
 }
 
-void setLoadedFrameworks(std::vector<std::string> frameworks) {
-    Presence& known = presence();
+void setLoadedFrameworks(std::vector<std::string> loaded) {
+    Frameworks& known = frameworks();
     const std::lock_guard guard(known.lock);
-    known.loadedFrameworks.emplace(frameworks.begin(), frameworks.end());
+    known.loaded.emplace(loaded.begin(), loaded.end());
 }
 
 } // namespace simulator

@@ -27,15 +27,12 @@ void setCurrentRelease(Release release);
 
 // One fact of the signature table (tests/data/platform-signatures.tsv).
 struct SignatureRow {
-    enum class Status { found, notFound, thirdParty };
-
     std::string className;
     char kind;            // '-' instance method, '+' class method, 'c' presence of the class itself
     std::string selector; // empty for the presence of a class
     std::string encoding; // as on arm64, without offsets
     std::string releases; // "8.0-10.2", several ranges joined by commas, empty when in none
     std::string inheritedFrom;
-    Status status;
 
     bool existsIn(Release release) const;
 };

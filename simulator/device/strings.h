@@ -4,10 +4,17 @@
 #import <Foundation/Foundation.h>
 
 #include <string>
+#include <string_view>
 
 namespace simulator {
 
-std::string text(NSString* string);        // empty for nil
-NSString* string(const std::string& text); // autoreleased
+// Empty for nil.
+inline std::string text(NSString* string) { return string == nil ? std::string() : [string UTF8String]; }
+
+// Autoreleased; nil for what is no UTF-8.
+inline NSString* string(std::string_view text) {
+    return [[[NSString alloc] initWithBytes:text.data() length:text.size()
+                                   encoding:NSUTF8StringEncoding] autorelease];
+}
 
 } // namespace simulator

@@ -1,6 +1,7 @@
 #include "device/threads.h"
 
 #include "device/exceptions.h"
+#include "device/strings.h"
 
 #import <Foundation/Foundation.h>
 #import <GNUstepBase/NSThread+GNUstepBase.h>
@@ -8,27 +9,35 @@
 #include <cstdio>
 #include <cstdlib>
 
-// A function as an object, so that a run loop can carry it.
-@interface SimulatorWork : NSObject {
-    std::function<void()> _work;
+@interface SimulatorFunction : NSObject <SimulatorFunction> {
+  @public
+    std::function<void(id)> _function;
 }
-- (instancetype)initWithWork:(std::function<void()>)work;
-- (void)run;
 @end
 
-@implementation SimulatorWork
-- (instancetype)initWithWork:(std::function<void()>)work {
-    self = [super init];
-    if (self != nil) _work = std::move(work);
-    return self;
-}
-
-- (void)run {
-    simulator::runAsEvent(_work);
+@implementation SimulatorFunction
+- (void)perform:(id)argument {
+    simulator::runAsEvent([&] { _function(argument); });
 }
 @end
 
 namespace simulator {
+
+std::optional<std::string> foundationExceptionOf(const std::function<void()>& work) {
+    @try {
+        work();
+    } @catch (NSException* exception) {
+        return simulator::text([exception name]) + ": " + simulator::text([exception reason]);
+    }
+    return std::nullopt;
+}
+
+id<SimulatorFunction> asObject(std::function<void(id)> function) {
+    auto* made = [[[SimulatorFunction alloc] init] autorelease];
+    made->_function = std::move(function);
+    return made;
+}
+
 void runAsEvent(const std::function<void()>& work) {
     @autoreleasepool {
         const auto exception = anyExceptionOf(work);
@@ -41,20 +50,36 @@ void runAsEvent(const std::function<void()>& work) {
 
 void performOnThread(NSThread* thread, std::function<void()> work) {
     registerThread();
-    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    // A thread without a run loop would do its own work at once instead of later: this makes the run loop.
-    [NSRunLoop currentRunLoop];
-    SimulatorWork* carried = [[[SimulatorWork alloc] initWithWork:std::move(work)] autorelease];
-    [carried performSelector:@selector(run)
-                    onThread:thread
-                  withObject:nil
-               waitUntilDone:NO
-                       modes:[NSArray arrayWithObject:NSDefaultRunLoopMode]];
-    [pool release];
+    @autoreleasepool {
+        // A thread without a run loop would do its own work at once instead of later: this makes the run
+        // loop.
+        [NSRunLoop currentRunLoop];
+        id carried = asObject([work = std::move(work)](id) { work(); });
+        [carried performSelector:@selector(perform:)
+                        onThread:thread
+                      withObject:nil
+                   waitUntilDone:NO
+                           modes:@[ NSDefaultRunLoopMode ]];
+    }
 }
 
 void performOnMainThread(std::function<void()> work) {
     performOnThread([NSThread mainThread], std::move(work));
+}
+
+bool runUntil(const std::function<bool()>& condition, double timeout) {
+    NSDate* end = [[NSDate alloc] initWithTimeIntervalSinceNow:timeout];
+    bool holds = condition();
+    while (!holds && [end timeIntervalSinceNow] > 0) {
+        @autoreleasepool {
+            NSDate* soon = [NSDate dateWithTimeIntervalSinceNow:0.01];
+            if (![[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:soon])
+                [NSThread sleepUntilDate:soon]; // nothing to wait for yet
+        }
+        holds = condition();
+    }
+    [end release];
+    return holds;
 }
 
 void registerThread() { GSRegisterCurrentThread(); }

@@ -74,7 +74,7 @@ void HostProcess::start() {
 void HostProcess::connect() {
     const auto path = controlSocketOf(m_options.device, m_options.bundleIdentifier);
     const bool isOver = waitUntil([&] {
-        m_socket = connectTo(path, SocketKind::stream);
+        m_socket = connectTo(path);
         return m_socket || !isRunning();
     });
     if (!isOver) fail("not ready in time");

@@ -34,7 +34,7 @@ class HostProcess {
 
     // Sends {"do": verb, ...}, waits for the answer; throws what the host reports as {"error": text}.
     nlohmann::json call(const nlohmann::json& request);
-    nlohmann::json call(const char* verb) { return call(nlohmann::json{{"do", verb}}); }
+    nlohmann::json call(const char* verb);
 
     void stop(); // asks it to quit and waits
     void kill(); // ends it at once

@@ -5,6 +5,7 @@
 #include "device/threads.h"
 #include "hosts/host.h"
 
+#include <nlohmann/json.hpp>
 #include <sys/socket.h>
 
 #include <future>
@@ -39,7 +40,7 @@ void serve(const Descriptor& client) {
 } // namespace
 
 void serveControlSocket(const std::filesystem::path& path) {
-    auto socket = std::make_shared<Descriptor>(listenOn(path, SocketKind::stream));
+    auto socket = std::make_shared<Descriptor>(listenOn(path));
     std::thread([socket] {
         for (;;) {
             const int client = accept4(socket->number(), nullptr, nullptr, SOCK_CLOEXEC);
@@ -53,7 +54,7 @@ void serveControlSocket(const std::filesystem::path& path) {
 
 std::filesystem::path controlSocketOf(const std::filesystem::path& device,
                                       const std::string& bundleIdentifier) {
-    return device / "run" / (fileNameFor(bundleIdentifier) + ".sock");
+    return device / "run" / (bundleIdentifier + ".sock");
 }
 
 } // namespace simulator

@@ -5,7 +5,7 @@
 
 #include "frameworks/Hooking/InstallationLog.h"
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include <concepts>
 #include <filesystem>

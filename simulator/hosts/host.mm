@@ -35,15 +35,6 @@ std::filesystem::path absoluteOrNone(const std::optional<std::filesystem::path>&
     return path ? std::filesystem::absolute(*path) : std::filesystem::path();
 }
 
-// Runs the main run loop once, for at most `seconds`.
-void runOnce(double seconds) {
-    @autoreleasepool {
-        NSDate* end = [NSDate dateWithTimeIntervalSinceNow:seconds];
-        if (![[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:end])
-            [NSThread sleepUntilDate:end]; // nothing to wait for yet
-    }
-}
-
 // A run loop without anything to listen to would not wait; it does not own its ports.
 void keepMainRunLoopAlive() {
     [[NSRunLoop currentRunLoop] addPort:[[NSPort port] retain] forMode:NSDefaultRunLoopMode];
@@ -72,14 +63,7 @@ Host::~Host() { mountDevice({}); }
 const std::vector<Installation>& Host::installations() const { return installationLog(); }
 
 bool Host::runUntil(const std::function<bool()>& condition, double timeout) {
-    NSDate* end = [[NSDate alloc] initWithTimeIntervalSinceNow:timeout];
-    bool holds = condition();
-    while (!holds && [end timeIntervalSinceNow] > 0) {
-        runOnce(0.01);
-        holds = condition();
-    }
-    [end release];
-    return holds;
+    return simulator::runUntil(condition, timeout);
 }
 
 void Host::spin(double seconds) {

@@ -3,6 +3,8 @@
 #include "hosts/control_socket.h"
 #include "hosts/host.h"
 
+#include <nlohmann/json.hpp>
+
 #include <cstdio>
 #include <cstdlib>
 #include <exception>

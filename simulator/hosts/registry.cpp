@@ -1,5 +1,7 @@
 #include "hosts/host.h"
 
+#include <nlohmann/json.hpp>
+
 #include <map>
 
 namespace simulator {

@@ -6,6 +6,8 @@
 #include "hosts/client.h"
 #include "photolibrary/library.h"
 
+#include <nlohmann/json.hpp>
+
 #include <filesystem>
 #include <functional>
 #include <map>

@@ -11,7 +11,9 @@
 #import "Photos/Photos.h"
 
 #import <Foundation/Foundation.h>
+
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <functional>

@@ -4,20 +4,20 @@
 #import <Foundation/Foundation.h>
 
 namespace simulator {
-class MessageServer;
+class Mailbox;
 }
 
 @interface CPDistributedMessagingCenter : NSObject {
   @private
     NSString* _name;
     BOOL _unlocked;
-    NSMutableDictionary* _handlers;    // by message name
-    simulator::MessageServer* _server; // owned; null while it does not run
+    NSMutableDictionary* _handlers; // by message name
+    simulator::Mailbox* _server;    // owned; null while it does not run
 }
-// One object per name and process.
+// One object per name and process, which lives as long as that. Main thread.
 + (instancetype)centerNamed:(NSString*)name;
 
-- (NSString*)name;
+@property (nonatomic, readonly) NSString* name;
 
 // Sends without waiting for an answer. userInfo must be a property list or nil. NO when no server took it:
 // then the message is lost.
@@ -30,4 +30,7 @@ class MessageServer;
 // The target is not retained; its method gets the message's name and userInfo.
 - (void)registerForMessageName:(NSString*)name target:(id)target selector:(SEL)selector;
 - (void)unregisterForMessageName:(NSString*)name;
+
+// Opens the sandbox for this process's end of the centre.
+- (void)simulatorUnlock;
 @end

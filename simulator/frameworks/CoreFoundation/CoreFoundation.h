@@ -15,12 +15,7 @@ typedef struct __CFNotificationCenter* CFNotificationCenterRef;
 typedef long CFIndex;
 typedef unsigned char Boolean;
 
-enum {
-    CFNotificationSuspensionBehaviorDrop = 1,
-    CFNotificationSuspensionBehaviorCoalesce = 2,
-    CFNotificationSuspensionBehaviorHold = 3,
-    CFNotificationSuspensionBehaviorDeliverImmediately = 4
-};
+enum { CFNotificationSuspensionBehaviorDeliverImmediately = 4 };
 typedef CFIndex CFNotificationSuspensionBehavior;
 
 typedef void (*CFNotificationCallback)(CFNotificationCenterRef center, void* observer, CFStringRef name,

@@ -1,12 +1,13 @@
 #import "CoreFoundation/CoreFoundation.h"
 
-#include "device/notifications.h"
+#include "device/local_sockets.h"
 #include "device/releases.h"
+#include "device/root.h"
+#include "device/strings.h"
 #include "device/threads.h"
 
-#include <algorithm>
-#include <mutex>
-#include <string>
+#include <unistd.h>
+
 #include <vector>
 
 double kCFCoreFoundationVersionNumber = simulator::coreFoundationVersion(simulator::Release::ios10_3);
@@ -21,37 +22,20 @@ struct Observer {
     std::string name;
 };
 
-struct Observers {
-    std::mutex lock;
-    std::vector<Observer> list;
-};
+// Of the main thread, where notifications are observed and delivered.
+[[clang::no_destroy]] constinit std::vector<Observer> observers;
 
-Observers& observers() {
-    static auto* shared = new Observers;
-    return *shared;
-}
+// One for each process of the device that observes anything.
+std::filesystem::path mailboxes() { return simulator::mountedDevice() / "run" / "notifications"; }
 
-std::string textOf(CFStringRef name) {
-    return [reinterpret_cast<NSString*>(const_cast<__CFString*>(name)) UTF8String];
-}
+NSString* bridged(CFStringRef text) { return reinterpret_cast<NSString*>(const_cast<__CFString*>(text)); }
 
-// On the main thread. The list is copied, as a callback may change it.
+// The list is copied, as a callback may change it.
 void deliver(const std::string& name) {
-    std::vector<Observer> called;
-    {
-        const std::lock_guard guard(observers().lock);
-        std::ranges::copy_if(observers().list, std::back_inserter(called),
-                             [&](const Observer& each) { return each.name == name; });
-    }
-    NSString* text = [NSString stringWithUTF8String:name.c_str()];
-    for (const Observer& each : called)
-        each.callback(CFNotificationCenterGetDarwinNotifyCenter(), const_cast<void*>(each.observer),
-                      reinterpret_cast<CFStringRef>(text), nullptr, nullptr);
-}
-
-void begin() {
-    simulator::receiveNotifications(
-        [](const std::string& name) { simulator::performOnMainThread([name] { deliver(name); }); });
+    for (const Observer& each : std::vector(observers))
+        if (each.name == name)
+            each.callback(CFNotificationCenterGetDarwinNotifyCenter(), const_cast<void*>(each.observer),
+                          reinterpret_cast<CFStringRef>(simulator::string(name)), nullptr, nullptr);
 }
 
 } // namespace
@@ -64,20 +48,24 @@ CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter(void) {
 void CFNotificationCenterAddObserver(CFNotificationCenterRef, const void* observer,
                                      CFNotificationCallback callback, CFStringRef name, const void*,
                                      CFNotificationSuspensionBehavior) {
-    begin();
-    const std::lock_guard guard(observers().lock);
-    observers().list.push_back({observer, callback, textOf(name)});
+    [[maybe_unused]] static const auto& mailbox =
+        *new simulator::Mailbox(mailboxes() / std::to_string(getpid()), [](const std::string& name) {
+            simulator::performOnMainThread([name] { deliver(name); });
+        });
+    observers.push_back({observer, callback, simulator::text(bridged(name))});
 }
 
 void CFNotificationCenterRemoveObserver(CFNotificationCenterRef, const void* observer, CFStringRef name,
                                         const void*) {
-    const std::lock_guard guard(observers().lock);
-    std::erase_if(observers().list, [&](const Observer& each) {
-        return each.observer == observer && (name == nullptr || each.name == textOf(name));
+    std::erase_if(observers, [&](const Observer& each) {
+        return each.observer == observer && each.name == simulator::text(bridged(name));
     });
 }
 
 void CFNotificationCenterPostNotification(CFNotificationCenterRef, CFStringRef name, const void*,
                                           CFDictionaryRef, Boolean) {
-    simulator::postNotification(textOf(name));
+    std::error_code ignored;
+    for (const auto& mailbox : std::filesystem::directory_iterator(mailboxes(), ignored))
+        if (!simulator::sendToMailbox(mailbox, simulator::text(bridged(name))))
+            std::filesystem::remove(mailbox, ignored); // its process has gone
 }

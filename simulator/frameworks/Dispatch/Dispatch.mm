@@ -1,6 +1,5 @@
 #include "Dispatch/Dispatch.h"
 
-#include "device/clock.h"
 #include "device/threads.h"
 
 #import <Foundation/Foundation.h>
@@ -102,11 +101,6 @@ dispatch_queue_t dispatch_queue_create(const char*, dispatch_queue_attr_t) {
     return &queues.emplace_back(new SerialThread);
 }
 
-dispatch_queue_t dispatch_get_global_queue(long, unsigned long) {
-    static dispatch_queue_t shared = dispatch_queue_create("global", DISPATCH_QUEUE_SERIAL);
-    return shared;
-}
-
 void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) { queue->add(owning(block)); }
 
 void dispatch_sync(dispatch_queue_t queue, dispatch_block_t block) {
@@ -116,14 +110,4 @@ void dispatch_sync(dispatch_queue_t queue, dispatch_block_t block) {
         done.set_value();
     });
     done.get_future().wait();
-}
-
-dispatch_time_t dispatch_time(dispatch_time_t when, int64_t nanoseconds) {
-    const double start = when == DISPATCH_TIME_NOW ? simulator::clock().now() : double(when) / NSEC_PER_SEC;
-    return static_cast<dispatch_time_t>(start * NSEC_PER_SEC) + static_cast<dispatch_time_t>(nanoseconds);
-}
-
-void dispatch_after(dispatch_time_t when, dispatch_queue_t queue, dispatch_block_t block) {
-    const double delay = std::max(0.0, double(when) / NSEC_PER_SEC - simulator::clock().now());
-    simulator::clock().after(delay, [queue, item = owning(block)] { queue->add(item); });
 }

@@ -1,6 +1,9 @@
-// Bundles as they lie on the device: flat folders, whose executable the device's loader loads.
+// Bundles as they lie on the device: flat folders, whose executable the device's loader loads. The main one
+// is that of the host.
 #include "device/exceptions.h"
+#include "device/process.h"
 #include "device/root.h"
+#include "device/strings.h"
 #include "frameworks/ObjectiveC/Replacement.h"
 #include "loader/loader.h"
 
@@ -9,8 +12,15 @@
 namespace simulator {
 namespace {
 
+NSString* (*originalBundleIdentifier)(id, SEL);
 BOOL (*originalLoad)(id, SEL);
 Class (*originalPrincipalClass)(id, SEL);
+
+NSString* bundleIdentifier(id self, SEL command) {
+    const std::string host = hostBundleIdentifier();
+    if (self != [NSBundle mainBundle] || host.empty()) return originalBundleIdentifier(self, command);
+    return simulator::string(host);
+}
 
 NSString* fileIn(NSBundle* bundle, NSString* name) {
     return [[bundle bundlePath] stringByAppendingPathComponent:name];
@@ -23,19 +33,15 @@ NSDictionary* flatInformation(NSBundle* bundle) {
                : [NSDictionary dictionaryWithContentsOfFile:fileIn(bundle, @"Info.plist")];
 }
 
-NSMutableSet* loadedExecutables() {
-    static NSMutableSet* paths = [[NSMutableSet alloc] init];
-    return paths;
-}
-
 BOOL loadExecutable(NSString* path) {
-    if ([loadedExecutables() containsObject:path]) return YES;
+    static NSMutableSet* loaded = [[NSMutableSet alloc] init];
+    if ([loaded containsObject:path]) return YES;
     if (const auto problem =
             standardExceptionOf([&] { loadLibrary(linuxPath([path fileSystemRepresentation])); })) {
         NSLog(@"%s", problem->c_str());
         return NO;
     }
-    [loadedExecutables() addObject:path];
+    [loaded addObject:path];
     return YES;
 }
 
@@ -51,6 +57,7 @@ Class principalClass(id self, SEL command) {
 }
 
 __attribute__((constructor)) void loadBundlesAsTheDeviceDoes() {
+    originalBundleIdentifier = replaceMethod("NSBundle", '-', "bundleIdentifier", bundleIdentifier);
     originalLoad = replaceMethod("NSBundle", '-', "load", load);
     originalPrincipalClass = replaceMethod("NSBundle", '-', "principalClass", principalClass);
 }

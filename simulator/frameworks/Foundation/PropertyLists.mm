@@ -1,81 +1,76 @@
 #include "frameworks/Foundation/PropertyLists.h"
 
+#include "device/strings.h"
 #include "frameworks/ObjectiveC/Replacement.h"
 
+#import <GNUstepBase/NSProcessInfo+GNUstepBase.h>
+
 #include <cstring>
-#include <initializer_list>
-#include <string>
+
+// GNUstep tells of every damaged file, which is no news on the device.
+@interface SimulatorQuietFiles : NSObject
+@end
+@implementation SimulatorQuietFiles
++ (void)load {
+    @autoreleasepool {
+        [[[NSProcessInfo processInfo] debugSet] addObject:@"NoWarn"];
+    }
+}
+@end
 
 namespace simulator {
 namespace {
 
-bool isLeaf(id value) {
-    for (Class leaf : {[NSString class], [NSNumber class], [NSDate class], [NSData class]})
-        if ([value isKindOfClass:leaf]) return true;
-    return false;
+std::string element(const std::string& name, NSString* content) {
+    std::string text;
+    for (const char letter : simulator::text(content))
+        text += letter == '<'   ? "&lt;"
+                : letter == '>' ? "&gt;"
+                : letter == '&' ? "&amp;"
+                                : std::string(1, letter);
+    return "<" + name + ">" + text + "</" + name + ">\n";
 }
 
-const char* entityFor(char letter) {
-    switch (letter) {
-    case '<':
-        return "&lt;";
-    case '>':
-        return "&gt;";
-    case '&':
-        return "&amp;";
-    default:
-        return nullptr;
-    }
-}
-
-std::string escaped(NSString* text) {
-    NSData* bytes = [text dataUsingEncoding:NSUTF8StringEncoding];
-    std::string result;
-    for (const char letter : std::string_view(static_cast<const char*>([bytes bytes]), [bytes length]))
-        if (const char* entity = entityFor(letter))
-            result += entity;
-        else
-            result += letter;
-    return result;
-}
-
-std::string element(const std::string& name, const std::string& content) {
-    return "<" + name + ">" + content + "</" + name + ">\n";
-}
-
-std::string numberElement(NSNumber* number) {
-    if (number == [NSNumber numberWithBool:YES]) return "<true/>\n";
-    if (number == [NSNumber numberWithBool:NO]) return "<false/>\n";
-    const bool isReal = std::strchr("df", *[number objCType]) != nullptr;
-    return element(isReal ? "real" : "integer", escaped([number stringValue]));
-}
-
+// Empty for what is no property list.
 std::string leafElement(id value) {
-    if ([value isKindOfClass:[NSString class]]) return element("string", escaped(value));
-    if ([value isKindOfClass:[NSNumber class]]) return numberElement(value);
+    if ([value isKindOfClass:[NSString class]]) return element("string", value);
+    if (value == [NSNumber numberWithBool:YES]) return "<true/>\n";
+    if (value == [NSNumber numberWithBool:NO]) return "<false/>\n";
+    if ([value isKindOfClass:[NSNumber class]]) {
+        const bool isReal = std::strchr("df", *[value objCType]) != nullptr;
+        return element(isReal ? "real" : "integer", [value stringValue]);
+    }
     if ([value isKindOfClass:[NSData class]])
-        return element("data", escaped([value base64EncodedStringWithOptions:0]));
-    NSString* date = [value descriptionWithCalendarFormat:@"%Y-%m-%dT%H:%M:%SZ"
-                                                 timeZone:[NSTimeZone timeZoneWithName:@"UTC"]
-                                                   locale:nil];
-    return element("date", escaped(date));
+        return element("data", [value base64EncodedStringWithOptions:0]);
+    if (![value isKindOfClass:[NSDate class]]) return {};
+    return element("date", [value descriptionWithCalendarFormat:@"%Y-%m-%dT%H:%M:%SZ"
+                                                       timeZone:[NSTimeZone timeZoneWithName:@"UTC"]
+                                                         locale:nil]);
 }
 
-std::string elementFor(id value, const std::string& indent) {
+// False for what is no property list.
+bool write(id value, const std::string& indent, std::string& text) {
     const std::string inner = indent + "\t";
     if ([value isKindOfClass:[NSArray class]]) {
-        std::string text = indent + "<array>\n";
+        text += indent + "<array>\n";
         for (id each in static_cast<NSArray*>(value))
-            text += elementFor(each, inner);
-        return text + indent + "</array>\n";
+            if (!write(each, inner, text)) return false;
+        text += indent + "</array>\n";
+        return true;
     }
     if ([value isKindOfClass:[NSDictionary class]]) {
-        std::string text = indent + "<dict>\n";
-        for (NSString* key in [[value allKeys] sortedArrayUsingSelector:@selector(compare:)])
-            text += inner + element("key", escaped(key)) + elementFor([value objectForKey:key], inner);
-        return text + indent + "</dict>\n";
+        text += indent + "<dict>\n";
+        for (id key in [[value allKeys] sortedArrayUsingSelector:@selector(compare:)]) {
+            if (![key isKindOfClass:[NSString class]]) return false;
+            text += inner + element("key", key);
+            if (!write([value objectForKey:key], inner, text)) return false;
+        }
+        text += indent + "</dict>\n";
+        return true;
     }
-    return indent + leafElement(value);
+    const std::string leaf = leafElement(value);
+    text += indent + leaf;
+    return !leaf.empty();
 }
 
 BOOL writeToFile(id self, SEL, NSString* path, BOOL atomically) {
@@ -90,16 +85,9 @@ InitWithFile initDictionaryFromText;
 
 // nil for a file that is not of the binary form, or damaged.
 id binaryPropertyListIn(NSString* path) {
-    NSData* bytes = [NSData dataWithContentsOfFile:path];
-    if ([bytes length] < 8 || std::memcmp([bytes bytes], "bplist00", 8) != 0) return nil;
-    @try {
-        return [NSPropertyListSerialization propertyListWithData:bytes
-                                                         options:0
-                                                          format:nullptr
-                                                           error:nullptr];
-    } @catch (NSException*) {
-        return nil; // GNUstep raises where the device answers with an error
-    }
+    NSData* file = [NSData dataWithContentsOfFile:path];
+    const bool isBinary = [file length] >= 8 && std::memcmp([file bytes], "bplist00", 8) == 0;
+    return isBinary ? propertyListIn(file) : nil;
 }
 
 id initArray(id self, SEL command, NSString* path) {
@@ -123,29 +111,21 @@ __attribute__((constructor)) void useFilesAsTheDeviceDoes() {
 
 } // namespace
 
-bool isPropertyList(id value) {
-    if ([value isKindOfClass:[NSArray class]]) {
-        for (id each in static_cast<NSArray*>(value))
-            if (!isPropertyList(each)) return false;
-        return true;
-    }
-    if ([value isKindOfClass:[NSDictionary class]]) {
-        for (id key in static_cast<NSDictionary*>(value))
-            if (![key isKindOfClass:[NSString class]] || !isPropertyList([value objectForKey:key]))
-                return false;
-        return true;
-    }
-    return isLeaf(value);
+NSData* propertyListAsXml(id value) {
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                       "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                       "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">\n";
+    if (!write(value, "", text)) return nil;
+    text += "</plist>\n";
+    return [NSData dataWithBytes:text.data() length:text.size()];
 }
 
-NSData* propertyListAsXml(id value) {
-    if (!isPropertyList(value)) return nil;
-    const std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                             "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-                             "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-                             "<plist version=\"1.0\">\n" +
-                             elementFor(value, "") + "</plist>\n";
-    return [NSData dataWithBytes:text.data() length:text.size()];
+id propertyListIn(NSData* file) {
+    @try {
+        return [NSPropertyListSerialization propertyListWithData:file options:0 format:nullptr error:nullptr];
+    } @catch (NSException*) {
+        return nil; // GNUstep raises where the device answers with an error
+    }
 }
 
 } // namespace simulator

@@ -23,7 +23,7 @@ void put(Class cls, Method method, bool own, IMP replacement) {
         __objc_update_dispatch_table_for_class(cls);
         return;
     }
-    const auto add = nextFunction<"class_addMethod", decltype(class_addMethod)>();
+    const auto add = NEXT_FUNCTION(class_addMethod);
     add(cls, method_getName(method), replacement, method_getTypeEncoding(method));
 }
 

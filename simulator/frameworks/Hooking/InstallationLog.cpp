@@ -1,22 +1,15 @@
 #include "frameworks/Hooking/InstallationLog.h"
 
-#include "frameworks/Hooking/AddedMethods.h"
-
 namespace simulator {
 namespace {
 
-std::vector<Installation>& log() {
-    static auto* shared = new std::vector<Installation>;
-    return *shared;
-}
-
+[[clang::no_destroy]] constinit std::vector<Installation> log;
 thread_local bool libraryIsLoading = false;
 
 } // namespace
 
-const std::vector<Installation>& installationLog() { return log(); }
-void clearInstallationLog() { log().clear(); }
-void logInstallation(Installation installation) { log().push_back(std::move(installation)); }
+const std::vector<Installation>& installationLog() { return log; }
+void logInstallation(Installation installation) { log.push_back(std::move(installation)); }
 
 void beginLoggingAddedMethods() { libraryIsLoading = true; }
 void endLoggingAddedMethods() { libraryIsLoading = false; }

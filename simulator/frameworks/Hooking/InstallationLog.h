@@ -2,6 +2,8 @@
 // and methods added through the runtime.
 #pragma once
 
+#include <objc/runtime.h>
+
 #include <string>
 #include <vector>
 
@@ -25,11 +27,11 @@ struct Installation {
 // The log of this process: everything the hooking function was asked for, and methods added while a library
 // loads.
 const std::vector<Installation>& installationLog();
-void clearInstallationLog();
 void logInstallation(Installation installation);
 
 // Between the two calls methods that the calling thread adds are logged as well.
 void beginLoggingAddedMethods();
 void endLoggingAddedMethods();
+void logAddedMethod(Class cls, SEL selector, IMP implementation, const char* types, bool added);
 
 } // namespace simulator

@@ -4,7 +4,9 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
+namespace simulator {
 namespace {
 
 struct Inherited {
@@ -12,25 +14,37 @@ struct Inherited {
     SEL selector;
 };
 
-constexpr std::size_t capacity = 256; // as many entries as LateOriginalEntries.S has
+constexpr std::size_t capacity = 128;
 std::array<Inherited, capacity> inherited;
 std::size_t used = 0;
 
-} // namespace
+// A parameter for each register that may carry an argument; what lies on the stack stays where it is.
+template <std::size_t> using Whole = long;
+template <std::size_t> using Floating = double;
+#if defined(__x86_64__)
+using WholeRegisters = std::make_index_sequence<6>;
+#elif defined(__aarch64__)
+using WholeRegisters = std::make_index_sequence<8>;
+#endif
 
-extern "C" {
+template <class, class> struct Registers;
+template <std::size_t... whole, std::size_t... floating>
+struct Registers<std::index_sequence<whole...>, std::index_sequence<floating...>> {
+    // Jumps on, so that whatever comes back goes straight to the caller.
+    template <std::size_t entry> static long passOn(Whole<whole>... a, Floating<floating>... b) {
+        const auto found =
+            class_getMethodImplementation(inherited[entry].superclass, inherited[entry].selector);
+        [[clang::musttail]] return reinterpret_cast<decltype(&passOn<entry>)>(found)(a..., b...);
+    }
+};
+using Entries = Registers<WholeRegisters, std::make_index_sequence<8>>;
 
-extern const char lateOriginalEntries[];
-extern const std::size_t lateOriginalEntrySize;
-
-// Called by the entries with all argument registers saved.
-IMP simulatorResolveLateOriginal(std::size_t entry) {
-    return class_getMethodImplementation(inherited[entry].superclass, inherited[entry].selector);
+template <std::size_t... entry> constexpr auto entriesFor(std::index_sequence<entry...>) {
+    return std::array{&Entries::passOn<entry>...};
 }
+constexpr auto entries = entriesFor(std::make_index_sequence<capacity>());
 
-} // extern "C"
-
-namespace simulator {
+} // namespace
 
 IMP lateOriginal(Class superclass, SEL selector) {
     if (used == capacity) {
@@ -38,7 +52,7 @@ IMP lateOriginal(Class superclass, SEL selector) {
         std::abort();
     }
     inherited[used] = {superclass, selector};
-    return reinterpret_cast<IMP>(const_cast<char*>(lateOriginalEntries) + used++ * lateOriginalEntrySize);
+    return reinterpret_cast<IMP>(entries[used++]);
 }
 
 } // namespace simulator

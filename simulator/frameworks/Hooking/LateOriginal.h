@@ -6,8 +6,9 @@
 
 namespace simulator {
 
-// A function that passes any call on to what `superclass` has for the selector at that moment. There is room
-// for 256 in a process; asking for more ends it with a message.
+// A function that passes any call on to what `superclass` has for the selector at that moment, except where
+// the result of an arm64 method is a structure returned in memory. There is room for 128 in a process; asking
+// for more ends it with a message.
 IMP lateOriginal(Class superclass, SEL selector);
 
 } // namespace simulator

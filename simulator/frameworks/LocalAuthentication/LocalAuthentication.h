@@ -3,17 +3,12 @@
 
 #import <Foundation/Foundation.h>
 
-typedef NS_ENUM(NSInteger, LAPolicy) {
-    LAPolicyDeviceOwnerAuthenticationWithBiometrics = 1,
-    LAPolicyDeviceOwnerAuthentication = 2,
-};
+typedef NS_ENUM(NSInteger, LAPolicy) { LAPolicyDeviceOwnerAuthenticationWithBiometrics = 1 };
 
 typedef NS_ENUM(NSInteger, LAError) {
     LAErrorAuthenticationFailed = -1,
     LAErrorUserCancel = -2,
     LAErrorUserFallback = -3,
-    LAErrorSystemCancel = -4,
-    LAErrorPasscodeNotSet = -5,
     LAErrorTouchIDNotAvailable = -6,
 };
 
@@ -21,8 +16,6 @@ extern NSString* const LAErrorDomain;
 
 @interface LAContext : NSObject
 - (BOOL)canEvaluatePolicy:(LAPolicy)policy error:(NSError**)error;
-// In no release: exists in the complete profile alone.
-- (BOOL)canEvaluatePolicy:(LAPolicy)policy;
 // The reply runs on a queue of the framework's own, never on the caller's thread. An empty reason raises.
 - (void)evaluatePolicy:(LAPolicy)policy
        localizedReason:(NSString*)localizedReason

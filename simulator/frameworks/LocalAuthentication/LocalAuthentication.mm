@@ -3,10 +3,10 @@
 #include "Dispatch/Dispatch.h"
 #include "LocalAuthentication/Reasons.h"
 #include "device/conditions.h"
+#include "device/strings.h"
 
 #include <Block.h>
 
-#include <mutex>
 #include <optional>
 
 NSString* const LAErrorDomain = @"com.apple.LocalAuthentication";
@@ -38,28 +38,12 @@ NSError* errorOf(const Ending& ending) {
     return ending.error ? [NSError errorWithDomain:LAErrorDomain code:*ending.error userInfo:nil] : nil;
 }
 
-dispatch_queue_t replyQueue() {
-    static dispatch_queue_t queue =
-        dispatch_queue_create("com.apple.LocalAuthentication", DISPATCH_QUEUE_SERIAL);
-    return queue;
-}
-
-struct Reasons {
-    std::mutex lock;
-    std::vector<std::string> list;
-};
-
-Reasons& reasons() {
-    static auto* shared = new Reasons;
-    return *shared;
-}
+// Of the main thread, on which the device's owner is asked.
+[[clang::no_destroy]] constinit std::vector<std::string> reasons;
 
 } // namespace
 
-std::vector<std::string> simulator::authenticationReasons() {
-    const std::lock_guard guard(reasons().lock);
-    return reasons().list;
-}
+std::vector<std::string> simulator::authenticationReasons() { return reasons; }
 
 @implementation LAContext
 - (BOOL)canEvaluatePolicy:(LAPolicy)policy error:(NSError**)error {
@@ -70,23 +54,17 @@ std::vector<std::string> simulator::authenticationReasons() {
     return available ? YES : NO;
 }
 
-- (BOOL)canEvaluatePolicy:(LAPolicy)policy {
-    return [self canEvaluatePolicy:policy error:NULL];
-}
-
 - (void)evaluatePolicy:(LAPolicy)policy
        localizedReason:(NSString*)localizedReason
                  reply:(void (^)(BOOL success, NSError* error))reply {
     (void)policy;
     if ([localizedReason length] == 0)
         [NSException raise:NSInvalidArgumentException format:@"Non-empty localizedReason must be provided."];
-    {
-        const std::lock_guard guard(reasons().lock);
-        reasons().list.emplace_back([localizedReason UTF8String]);
-    }
+    reasons.push_back(simulator::text(localizedReason));
+    static dispatch_queue_t queue = dispatch_queue_create("LocalAuthentication", DISPATCH_QUEUE_SERIAL);
     const Ending ending = currentEnding();
     void (^answer)(BOOL, NSError*) = Block_copy(reply);
-    dispatch_async(replyQueue(), ^{
+    dispatch_async(queue, ^{
         answer(ending.success, errorOf(ending));
         Block_release(answer);
     });

@@ -6,7 +6,7 @@
 
 namespace simulator {
 
-// In order, as UTF-8. Any thread.
+// In order, as UTF-8. Main thread.
 std::vector<std::string> authenticationReasons();
 
 } // namespace simulator

@@ -21,13 +21,12 @@ void _Block_object_assign(void* destination, const void* object, const int flags
     if (flags == isObject)
         *static_cast<id*>(destination) = [static_cast<id>(const_cast<void*>(object)) retain];
     else
-        simulator::nextFunction<"_Block_object_assign", decltype(_Block_object_assign)>()(destination, object,
-                                                                                          flags);
+        NEXT_FUNCTION(_Block_object_assign)(destination, object, flags);
 }
 
 void _Block_object_dispose(const void* object, const int flags) {
     if (flags == isObject)
         [static_cast<id>(const_cast<void*>(object)) release];
     else
-        simulator::nextFunction<"_Block_object_dispose", decltype(_Block_object_dispose)>()(object, flags);
+        NEXT_FUNCTION(_Block_object_dispose)(object, flags);
 }

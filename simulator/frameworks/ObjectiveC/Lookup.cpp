@@ -2,29 +2,28 @@
 // that every caller gets them, the frameworks of this machine included.
 #include "device/next_function.h"
 #include "device/releases.h"
-#include "frameworks/Hooking/AddedMethods.h"
+#include "frameworks/Hooking/InstallationLog.h"
 #include "frameworks/ObjectiveC/Presence.h"
 
 #include <objc/runtime.h>
 
 using simulator::methodIsPresent;
-using simulator::nextFunction;
 
 extern "C" {
 
 Class objc_getClass(const char* name) {
-    Class found = static_cast<Class>(nextFunction<"objc_getClass", decltype(objc_getClass)>()(name));
+    Class found = static_cast<Class>(NEXT_FUNCTION(objc_getClass)(name));
     return found != Nil && simulator::classIsPresent(name) ? found : Nil;
 }
 
 BOOL class_respondsToSelector(Class cls, SEL selector) {
     if (cls == Nil || selector == nullptr || !methodIsPresent(cls, selector)) return NO;
-    return nextFunction<"class_respondsToSelector", decltype(class_respondsToSelector)>()(cls, selector);
+    return NEXT_FUNCTION(class_respondsToSelector)(cls, selector);
 }
 
 Method class_getInstanceMethod(Class cls, SEL selector) {
     if (cls == Nil || selector == nullptr || !methodIsPresent(cls, selector)) return nullptr;
-    return nextFunction<"class_getInstanceMethod", decltype(class_getInstanceMethod)>()(cls, selector);
+    return NEXT_FUNCTION(class_getInstanceMethod)(cls, selector);
 }
 
 Method class_getClassMethod(Class cls, SEL selector) {
@@ -34,8 +33,8 @@ Method class_getClassMethod(Class cls, SEL selector) {
 
 // A method that the stand-in has but the release lacks can be added like any other that is missing.
 BOOL class_addMethod(Class cls, SEL selector, IMP implementation, const char* types) {
-    const auto add = nextFunction<"class_addMethod", decltype(class_addMethod)>();
-    const auto find = nextFunction<"class_getInstanceMethod", decltype(class_getInstanceMethod)>();
+    const auto add = NEXT_FUNCTION(class_addMethod);
+    const auto find = NEXT_FUNCTION(class_getInstanceMethod);
     if (cls == Nil || selector == nullptr) return NO;
     const bool wasPresent = methodIsPresent(cls, selector);
     bool added = add(cls, selector, implementation, types) != NO;

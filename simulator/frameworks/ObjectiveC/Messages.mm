@@ -28,7 +28,7 @@ void raiseUnrecognised(id receiver, SEL, SEL selector) {
 const pthread_t mainThread = pthread_self(); // the simulator is loaded on it
 
 bool overrides(Class cls, SEL selector) {
-    const auto find = nextFunction<"class_getInstanceMethod", decltype(class_getInstanceMethod)>();
+    const auto find = NEXT_FUNCTION(class_getInstanceMethod);
     Class root = [NSObject class];
     return find(cls, selector) != find(class_isMetaClass(cls) ? object_getClass(root) : root, selector);
 }
@@ -56,8 +56,7 @@ __attribute__((constructor)) void nameClassAndSelectorInTheException() {
 
 IMP objc_msgLookup(id receiver, SEL selector) {
     Class cls = object_getClass(receiver);
-    const auto responds =
-        simulator::nextFunction<"class_respondsToSelector", decltype(class_respondsToSelector)>();
+    const auto responds = NEXT_FUNCTION(class_respondsToSelector);
     if (!simulator::methodIsPresent(cls, selector) || (!responds(cls, selector) && !simulator::forwards(cls)))
         simulator::raiseUnrecognised(receiver, @selector(doesNotRecognizeSelector:), selector);
     if (!pthread_equal(pthread_self(), simulator::mainThread))

@@ -2,8 +2,8 @@
 
 #include "device/releases.h"
 
-#include <array>
 #include <atomic>
+#include <bitset>
 #include <cstdint>
 #include <map>
 #include <mutex>
@@ -22,51 +22,37 @@ struct ClassRule {
     bool present;
 };
 
-struct SelectorRules {
-    std::uintptr_t nameNumber = 0;
-    std::vector<ClassRule> rules;
-};
-
 // The selectors that some class lacks in this release. Nearly every message misses here, and must do so in a
-// few instructions: hence open addressing over the number of the name.
+// few instructions: hence the bits, which say where looking is of no use.
 class AbsenceTable {
   public:
     AbsenceTable() {
         for (const SignatureRow& row : signatureTable())
-            if (row.kind != 'c' && !row.existsIn(currentRelease()))
-                slotFor(nameNumber(sel_registerName(row.selector.c_str())));
+            if (row.kind != 'c' && !row.existsIn(currentRelease())) m_rules[numberOf(row)];
+        for (const auto& [number, rules] : m_rules)
+            m_bits[bitOf(number)] = true;
         for (const SignatureRow& row : signatureTable())
-            if (row.kind != 'c') addRule(row);
+            if (row.kind != 'c' && m_rules.contains(numberOf(row)))
+                m_rules[numberOf(row)].push_back({row.className, row.kind, row.existsIn(currentRelease())});
     }
 
-    const SelectorRules* find(SEL selector) const {
+    const std::vector<ClassRule>* find(SEL selector) const {
         const std::uintptr_t number = nameNumber(selector);
-        for (std::size_t i = hash(number);; ++i) {
-            const SelectorRules& slot = m_slots[i % m_slots.size()];
-            if (slot.nameNumber == number) return &slot;
-            if (slot.nameNumber == 0) return nullptr;
-        }
+        if (!m_bits[bitOf(number)]) return nullptr;
+        const auto found = m_rules.find(number);
+        return found == m_rules.end() ? nullptr : &found->second;
     }
 
   private:
-    static std::size_t hash(std::uintptr_t number) { return (number ^ (number >> 16)) * 0x9E3779B1u >> 8; }
+    static constexpr std::size_t bits = 1 << 16;
 
-    SelectorRules& slotFor(std::uintptr_t number) {
-        for (std::size_t i = hash(number);; ++i) {
-            SelectorRules& slot = m_slots[i % m_slots.size()];
-            if (slot.nameNumber == 0) slot.nameNumber = number;
-            if (slot.nameNumber == number) return slot;
-        }
+    static std::uintptr_t numberOf(const SignatureRow& row) {
+        return nameNumber(sel_registerName(row.selector.c_str()));
     }
+    static std::size_t bitOf(std::uintptr_t number) { return (number ^ (number >> 16)) * 0x9E3779B1u % bits; }
 
-    void addRule(const SignatureRow& row) {
-        SEL selector = sel_registerName(row.selector.c_str());
-        if (find(selector) != nullptr)
-            slotFor(nameNumber(selector))
-                .rules.push_back({row.className, row.kind, row.existsIn(currentRelease())});
-    }
-
-    std::array<SelectorRules, 2048> m_slots; // several times the rows of the table
+    std::map<std::uintptr_t, std::vector<ClassRule>> m_rules;
+    std::bitset<bits> m_bits;
 };
 
 std::atomic<const AbsenceTable*> table = nullptr;
@@ -83,41 +69,43 @@ const AbsenceTable& absenceTable() {
     return made;
 }
 
-struct AddedMethods {
-    std::mutex lock;
-    std::set<std::pair<Class, std::uintptr_t>> methods;
+// Methods are added while libraries are being loaded, before the globals of this one are made.
+class AddedMethods {
+  public:
+    void add(Class cls, SEL selector) {
+        const std::lock_guard guard(m_lock);
+        m_methods.insert({cls, nameNumber(selector)});
+    }
+    bool contain(Class cls, SEL selector) {
+        const std::lock_guard guard(m_lock);
+        return m_methods.contains({cls, nameNumber(selector)});
+    }
+
+  private:
+    std::mutex m_lock;
+    std::set<std::pair<Class, std::uintptr_t>> m_methods;
 };
 
 AddedMethods& addedMethods() {
-    static auto* shared = new AddedMethods;
-    return *shared;
-}
-
-bool wasAdded(Class cls, SEL selector) {
-    AddedMethods& added = addedMethods();
-    const std::lock_guard guard(added.lock);
-    return added.methods.contains({cls, nameNumber(selector)});
+    static auto& shared = *new AddedMethods;
+    return shared;
 }
 
 } // namespace
 
 bool methodIsPresent(Class cls, SEL selector) {
-    const SelectorRules* known = absenceTable().find(selector);
+    const std::vector<ClassRule>* known = absenceTable().find(selector);
     if (known == nullptr) return true;
     const char kind = class_isMetaClass(cls) ? '+' : '-';
     for (Class each = cls; each != Nil; each = class_getSuperclass(each)) {
-        if (wasAdded(each, selector)) return true;
-        for (const ClassRule& rule : known->rules)
+        if (addedMethods().contain(each, selector)) return true;
+        for (const ClassRule& rule : *known)
             if (rule.kind == kind && rule.className == class_getName(each)) return rule.present;
     }
     return true;
 }
 
-void noteAddedMethod(Class cls, SEL selector) {
-    AddedMethods& added = addedMethods();
-    const std::lock_guard guard(added.lock);
-    added.methods.insert({cls, nameNumber(selector)});
-}
+void noteAddedMethod(Class cls, SEL selector) { addedMethods().add(cls, selector); }
 
 void forgetMethodsAbsentBefore() { table = nullptr; }
 

@@ -16,7 +16,7 @@ template <class Function>
 Function* replaceMethod(const char* className, char kind, const char* selector, Function* replacement) {
     Class cls = objc_lookUpClass(className);
     if (kind == '+') cls = object_getClass(reinterpret_cast<id>(cls));
-    const auto find = nextFunction<"class_getInstanceMethod", decltype(class_getInstanceMethod)>();
+    const auto find = NEXT_FUNCTION(class_getInstanceMethod);
     Method method = find(cls, sel_registerName(selector));
     if (method == nullptr) {
         std::fprintf(stderr, "simulator: Foundation has no method %c[%s %s]\n", kind, className, selector);

@@ -12,8 +12,6 @@
 #include <cstdint>
 #include <mutex>
 #include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace {
 
@@ -23,21 +21,16 @@ class WeakReferences {
   public:
     // Cheap and without the lock: false means that nothing refers to the object. Only an owner of the object
     // may store a reference to it, so none can appear while its last owner releases.
-    bool mayRefer(id object) const { return marks(object).load(std::memory_order_acquire) != 0; }
+    bool mayRefer(id object) { return marks(object).load(std::memory_order_acquire) != 0; }
 
     id store(id* location, id object) {
         const std::lock_guard guard(m_lock);
         forget(location);
         *location = object;
         if (object == nil) return nil;
-        m_locations[object].push_back(location);
+        m_locations.emplace(object, location);
         marks(object).fetch_add(1, std::memory_order_release);
         return object;
-    }
-
-    void initialise(id* location, id object) {
-        *location = nil;
-        store(location, object);
     }
 
     id loadRetained(id* location) {
@@ -49,33 +42,32 @@ class WeakReferences {
     bool releaseWasLast(id object) {
         const std::lock_guard guard(m_lock);
         if (!NSDecrementExtraRefCountWasZero(object)) return false;
-        const auto found = m_locations.find(object);
-        if (found == m_locations.end()) return true;
-        for (id* location : found->second)
-            *location = nil;
-        marks(object).fetch_sub(static_cast<std::uint32_t>(found->second.size()), std::memory_order_release);
-        m_locations.erase(found);
+        auto [first, last] = m_locations.equal_range(object);
+        for (; first != last; first = m_locations.erase(first)) {
+            *first->second = nil;
+            marks(object).fetch_sub(1, std::memory_order_release);
+        }
         return true;
     }
 
   private:
     using Mark = std::atomic<std::uint32_t>;
 
-    const Mark& marks(id object) const {
+    Mark& marks(id object) {
         return m_marks[(reinterpret_cast<std::uintptr_t>(object) >> 4) % m_marks.size()];
     }
-    Mark& marks(id object) { return const_cast<Mark&>(std::as_const(*this).marks(object)); }
 
     void forget(id* location) {
-        if (*location == nil) return;
-        const auto found = m_locations.find(*location);
-        if (found == m_locations.end() || std::erase(found->second, location) == 0) return;
+        auto [first, last] = m_locations.equal_range(*location);
+        while (first != last && first->second != location)
+            ++first;
+        if (first == last) return;
+        m_locations.erase(first);
         marks(*location).fetch_sub(1, std::memory_order_release);
-        if (found->second.empty()) m_locations.erase(found);
     }
 
     std::mutex m_lock;
-    std::unordered_map<id, std::vector<id*>> m_locations;
+    std::unordered_multimap<id, id*> m_locations;
     std::array<Mark, 4096> m_marks{};
 };
 
@@ -111,8 +103,8 @@ __attribute__((constructor)) void takeOverRelease() {
 } // namespace
 
 id objc_initWeak(id* location, id object) {
-    weakReferences().initialise(location, object);
-    return object;
+    *location = nil;
+    return weakReferences().store(location, object);
 }
 
 id objc_storeWeak(id* location, id object) { return weakReferences().store(location, object); }

@@ -1,145 +1,108 @@
+// What exists in a release, and what becomes of messages to what does not.
 #include "device/releases.h"
-#include "frameworks/LocalAuthentication/LocalAuthentication.h"
+
+#import "UIKit/UIKit.h"
+#include "device/exceptions.h"
+#include "device/threads.h"
 #include "frameworks/ObjectiveC/ObjectiveC.h"
-#include "simulator/device/device_test.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
+#include <thread>
 
 namespace simulator::test {
 namespace {
 
-const SignatureRow& row(std::string_view className, char kind, std::string_view selector) {
-    const auto found = std::ranges::find_if(signatureTable(), [&](const SignatureRow& each) {
-        return each.className == className && each.kind == kind && each.selector == selector;
-    });
-    if (found == signatureTable().end()) throw std::invalid_argument("no such row");
-    return *found;
-}
+constexpr const char* albumList = "PUAlbumListViewController";
+constexpr const char* cellAt = "visibleAlbumListCellContentViewAtIndexPath:";
 
-std::vector<std::string> releasesWith(const SignatureRow& wanted) {
-    std::vector<std::string> names;
-    for (const Release release : allReleases)
-        if (wanted.existsIn(release)) names.emplace_back(releaseName(release));
-    return names;
-}
-
-TEST(Releases, table_says_where_a_method_exists) {
-    using Names = std::vector<std::string>;
-    EXPECT_EQ(
-        releasesWith(row("PUAlbumListViewController", '-', "visibleAlbumListCellContentViewAtIndexPath:")),
-        (Names{"8.4", "9.3", "10.1", "10.2", "complete"}));
-    EXPECT_EQ(releasesWith(row("PUAlbumListViewController", '-', "showPeople")),
-              (Names{"10.1", "10.2", "10.3", "11.4", "complete"}));
-    EXPECT_EQ(releasesWith(row("PUAssetViewModel", '-', "wantsIrisBadgeVisible")),
-              (Names{"9.3", "10.1", "10.2", "10.3", "complete"}));
-    EXPECT_EQ(releasesWith(row("UITabBar", '-', "hidden")), (Names{"complete"}));
-}
-
-TEST(Releases, names_and_versions_agree_with_the_device) {
-    for (const Release release : allReleases)
-        EXPECT_EQ(releaseNamed(releaseName(release)), release);
-    EXPECT_FALSE(releaseNamed("10.9"));
-    EXPECT_DOUBLE_EQ(coreFoundationVersion(Release::ios10_2), 1348.22);
-    EXPECT_DOUBLE_EQ(coreFoundationVersion(Release::complete), coreFoundationVersion(Release::ios10_3));
-}
-
-std::string plainName(Release release) {
-    std::string name(releaseName(release));
-    std::ranges::replace(name, '.', '_');
-    return name;
-}
-
-struct ClassCase {
-    const char* name;
+const struct Fact {
+    const char* className;
+    const char* selector; // null: the class itself
     Release release;
     bool present;
+} facts[] = {
+    {"LAContext", nullptr, Release::ios7_1, false},
+    {"LAContext", nullptr, Release::ios8_4, true},
+    {"NoSuchClass", nullptr, Release::complete, false},
+    {albumList, "showPeople", Release::ios9_3, false},
+    {albumList, "showPeople", Release::ios10_1, true},
+    {albumList, "showPeople", Release::ios12_4, false},
+    {albumList, cellAt, Release::ios10_2, true},
+    {albumList, cellAt, Release::ios10_3, false},
+    {albumList, "alwaysHideTabBar", Release::ios12_4, false},
+    {albumList, "alwaysHideTabBar", Release::complete, true},
 };
 
-class ClassPresence : public testing::TestWithParam<ClassCase> {};
-
-TEST_P(ClassPresence, follows_the_release) {
-    setCurrentRelease(GetParam().release);
-    EXPECT_EQ(objc_getClass(GetParam().name) != Nil, GetParam().present);
-}
-
-INSTANTIATE_TEST_SUITE_P(Releases, ClassPresence,
-                         testing::Values(ClassCase{"LAContext", Release::ios7_1, false},
-                                         ClassCase{"LAContext", Release::ios8_4, true},
-                                         ClassCase{"LAContext", Release::complete, true},
-                                         ClassCase{"NSString", Release::ios7_1, true},
-                                         ClassCase{"NoSuchClass", Release::complete, false}),
-                         [](const auto& info) {
-                             return std::string(info.param.name) + "_" + plainName(info.param.release);
-                         });
-
-TEST(Releases, class_of_a_framework_is_there_once_the_framework_is_loaded) {
-    registerFramework("Authentication", {"LAContext"});
-    EXPECT_TRUE(objc_getClass("LAContext") != Nil);
-    setLoadedFrameworks({"Foundation"});
-    EXPECT_TRUE(objc_getClass("LAContext") == Nil);
-    setLoadedFrameworks({"Foundation", "Authentication"});
-    EXPECT_TRUE(objc_getClass("LAContext") != Nil);
-}
-
-struct MethodCase {
-    Release release;
-    bool present;
-};
-
-class MethodPresence : public testing::TestWithParam<MethodCase> {
+class Releases : public testing::Test {
   protected:
-    MethodPresence() { setCurrentRelease(GetParam().release); }
+    ~Releases() override { [m_pool drain]; }
 
+  private:
     NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
-    ~MethodPresence() override { [m_pool drain]; }
 };
 
-// containsString: came with iOS 8; strings are objects of subclasses that the table does not name.
-TEST_P(MethodPresence, is_the_same_wherever_it_is_asked_for) {
-    const bool present = GetParam().present;
-    NSString* text = [NSMutableString stringWithString:@"text"];
-    const SEL selector = @selector(containsString:);
-    EXPECT_EQ([text respondsToSelector:selector] != NO, present);
-    EXPECT_EQ([NSString instancesRespondToSelector:selector] != NO, present);
-    EXPECT_EQ(class_getInstanceMethod([NSString class], selector) != nullptr, present);
-    const std::string raised = exceptionOf([&] { objc_msgLookup(text, selector); });
-    EXPECT_EQ(raised.empty(), present) << raised;
-    if (!present)
-        EXPECT_THAT(raised, testing::HasSubstr("containsString:]: unrecognized selector sent to instance"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Releases, MethodPresence,
-                         testing::Values(MethodCase{Release::ios7_1, false},
-                                         MethodCase{Release::ios8_4, true},
-                                         MethodCase{Release::ios12_4, true},
-                                         MethodCase{Release::complete, true}),
-                         [](const auto& info) { return plainName(info.param.release); });
-
-TEST(Releases, a_name_of_no_release_exists_in_the_complete_one) {
-    @autoreleasepool {
-        LAContext* context = [[[LAContext alloc] init] autorelease];
-        setCurrentRelease(Release::ios10_3);
-        EXPECT_FALSE([context respondsToSelector:@selector(canEvaluatePolicy:)]);
-        setCurrentRelease(Release::complete);
-        EXPECT_TRUE([context respondsToSelector:@selector(canEvaluatePolicy:)]);
+TEST_F(Releases, decide_what_exists_wherever_it_is_asked_for) {
+    for (const Fact& fact : facts) {
+        SCOPED_TRACE(testing::Message() << fact.className << " " << releaseName(fact.release));
+        setCurrentRelease(fact.release);
+        Class cls = objc_getClass(fact.className);
+        if (fact.selector == nullptr) {
+            EXPECT_EQ(cls != Nil, fact.present);
+            continue;
+        }
+        const SEL selector = sel_registerName(fact.selector);
+        id object = [[cls new] autorelease];
+        EXPECT_EQ([object respondsToSelector:selector] != NO, fact.present);
+        EXPECT_EQ([cls instancesRespondToSelector:selector] != NO, fact.present);
+        EXPECT_EQ(class_getInstanceMethod(cls, selector) != nullptr, fact.present);
+        EXPECT_THAT(anyExceptionOf([&] { objc_msgLookup(object, selector); }).value_or(""),
+                    testing::HasSubstr(fact.present ? "" : "]: unrecognized selector sent to instance"));
     }
 }
 
-id answerNumber(id, SEL) { return @"added"; }
+int seven(id, SEL) { return 7; }
 
-TEST(Releases, a_method_that_is_absent_can_be_added_and_is_there_from_then_on) {
-    @autoreleasepool {
-        setCurrentRelease(Release::ios10_3);
-        const SEL selector = @selector(canEvaluatePolicy:);
-        EXPECT_TRUE(class_addMethod([LAContext class], selector, reinterpret_cast<IMP>(answerNumber), "@@:"));
-        id context = [[[LAContext alloc] init] autorelease];
-        EXPECT_TRUE([context respondsToSelector:selector]);
-        const auto method = reinterpret_cast<id (*)(id, SEL)>(objc_msgLookup(context, selector));
-        EXPECT_TRUE([method(context, selector) isEqual:@"added"]);
-        EXPECT_FALSE(
-            class_addMethod([LAContext class], selector, reinterpret_cast<IMP>(answerNumber), "@@:"));
+TEST_F(Releases, lose_a_method_until_it_is_added) {
+    setCurrentRelease(Release::ios12_4);
+    Class cls = objc_getClass(albumList);
+    const SEL selector = sel_registerName("alwaysHideTabBar");
+    EXPECT_TRUE(class_addMethod(cls, selector, reinterpret_cast<IMP>(seven), "i@:"));
+    EXPECT_FALSE(class_addMethod(cls, selector, reinterpret_cast<IMP>(seven), "i@:"));
+    id object = [[cls new] autorelease];
+    EXPECT_EQ(reinterpret_cast<int (*)(id, SEL)>(objc_msgLookup(object, selector))(object, selector), 7);
+}
+
+TEST_F(Releases, keep_views_and_controllers_to_the_main_thread) {
+    setCurrentRelease(Release::ios10_3);
+    const struct {
+        id receiver;
+        SEL selector;
+        std::string raises;
+    } messages[] = {
+        {[[UILabel new] autorelease], @selector(frame), "-[UILabel frame]"},
+        {[[UIViewController new] autorelease], @selector(view), "-[UIViewController view]"},
+        {[UIApplication class], @selector(sharedApplication), "+[UIApplication sharedApplication]"},
+        {[[UITapGestureRecognizer new] autorelease], @selector(view), "-[UITapGestureRecognizer view]"},
+        {[[UIBarButtonItem new] autorelease], @selector(title), "-[UIBarButtonItem title]"},
+        {[[UILabel new] autorelease], @selector(retain), ""},
+        {[UIColor class], @selector(blackColor), ""},
+    };
+    for (const auto& [receiver, selector, raises] : messages) {
+        const auto lookUp = [&] {
+            return anyExceptionOf([&] { objc_msgLookup(receiver, selector); }).value_or("");
+        };
+        EXPECT_EQ(lookUp(), "");
+        std::string raised;
+        std::thread([&] {
+            registerThread();
+            @autoreleasepool {
+                raised = lookUp();
+            }
+        }).join();
+        EXPECT_EQ(raised, raises.empty() ? ""
+                                         : "NSInternalInconsistencyException: " + raises +
+                                               " must be used from the main thread only");
     }
 }
 

@@ -7,6 +7,8 @@
 #include "hosts/applications/common/screen.h"
 #include "hosts/host.h"
 
+#include <nlohmann/json.hpp>
+
 #include <atomic>
 #include <memory>
 
