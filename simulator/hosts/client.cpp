@@ -84,6 +84,8 @@ void HostProcess::connect() {
     setsockopt(m_socket.number(), SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof timeout);
 }
 
+nlohmann::json HostProcess::call(const char* verb) { return call(nlohmann::json{{"do", verb}}); }
+
 nlohmann::json HostProcess::call(const nlohmann::json& request) {
     if (!sendAll(m_socket, request.dump() + "\n")) fail("does not take " + request.dump());
     const auto line = receiveLine(m_socket, m_received);

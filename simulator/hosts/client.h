@@ -3,7 +3,7 @@
 
 #include "device/local_sockets.h"
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include <filesystem>
 #include <functional>
