@@ -80,7 +80,6 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     [super viewDidLoad];
     [[self collectionView] registerClass:[UICollectionViewCell class]
               forCellWithReuseIdentifier:cellIdentifier];
-    [[self collectionView] setAllowsMultipleSelection:YES];
     [self _updateNavigationItem];
 }
 
