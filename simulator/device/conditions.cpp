@@ -66,8 +66,8 @@ Conditions conditionsFromJson(const json& object) {
     const auto conditions = object.get<Conditions>();
     const json given = object.flatten();
     const json understood = json(conditions).flatten();
-    for (const auto& [field, value] : given.items())
-        if (!understood.contains(field) || understood[field] != value)
+    for (const auto& [field, value] : given.items()) // an empty object or list is null there
+        if (!value.is_null() && (!understood.contains(field) || understood[field] != value))
             throw std::invalid_argument("conditions: " + field + " cannot be " + value.dump());
     return conditions;
 }
