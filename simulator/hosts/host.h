@@ -5,7 +5,7 @@
 
 #include "frameworks/Hooking/InstallationLog.h"
 
-#include <nlohmann/json_fwd.hpp>
+#include <nlohmann/json.hpp>
 
 #include <concepts>
 #include <filesystem>

@@ -12,7 +12,7 @@ using simulator::methodIsPresent;
 extern "C" {
 
 Class objc_getClass(const char* name) {
-    Class found = static_cast<Class>(NEXT_FUNCTION(objc_getClass)(name));
+    Class found = NEXT_FUNCTION(objc_getClass)(name);
     return found != Nil && simulator::classIsPresent(name) ? found : Nil;
 }
 

@@ -140,7 +140,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 - (void)_updateLayout {
     const CGFloat width = [_mainCollectionView bounds].size.width;
     const CGFloat side = coverSideForWidth(width);
-    auto layout = static_cast<UICollectionViewFlowLayout*>([_mainCollectionView collectionViewLayout]);
+    UICollectionViewFlowLayout* layout = [_mainCollectionView collectionViewLayout];
     const CGSize itemSize = CGSizeMake(side, side + spaceBelowCover);
     if (layout == nil || CGSizeEqualToSize([layout itemSize], itemSize)) return;
     const CGFloat columns = std::floor(width / side);

@@ -87,7 +87,7 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     [super viewWillAppear:animated];
     [self reloadAssets];
     const CGFloat side = ([[self collectionView] bounds].size.width - gap * (columns - 1)) / columns;
-    auto layout = static_cast<UICollectionViewFlowLayout*>([self collectionViewLayout]);
+    UICollectionViewFlowLayout* layout = [self collectionViewLayout];
     [layout setItemSize:CGSizeMake(side, side)];
     [layout setMinimumInteritemSpacing:gap];
     [layout setMinimumLineSpacing:gap];

@@ -35,7 +35,8 @@
 - (CGSize)collectionViewContentSize {
     const NSInteger items = [_collectionView numberOfItemsInSection:0];
     const NSInteger perLine = [self itemsInLine];
-    const auto lines = static_cast<CGFloat>((items + perLine - 1) / perLine);
+    const NSInteger fullOrBegunLines = (items + perLine - 1) / perLine;
+    const auto lines = static_cast<CGFloat>(fullOrBegunLines);
     const CGFloat spacing = std::max<CGFloat>(lines - 1, 0) * _minimumLineSpacing;
     return {[_collectionView bounds].size.width,
             _sectionInset.top + lines * _itemSize.height + spacing + _sectionInset.bottom};

@@ -99,14 +99,13 @@ TEST_F(Navigation, button_sends_the_controller_its_message) {
 #pragma mark The button's sheets
 
 TEST_F(Navigation, button_asks_what_suits_the_screen) {
+    const char* explanation = "Reset photo albums by returning all photos to the camera roll? Photos will "
+                              "remain in folders but also appear in the camera roll.";
     openAlbumList({{"passOption", 2}}, {"Holidays"});
     keepHidingLog(library());
     tapBarButton("Reset");
     EXPECT_EQ(shownAlert(),
-              (Texts{"sheet", "Move Album Photos",
-                     "Reset photo albums by returning all photos to the camera roll? Photos will "
-                     "remain in folders but also appear in the camera roll.",
-                     "Return all", "Cancel (cancel)"}));
+              (Texts{"sheet", "Move Album Photos", explanation, "Return all", "Cancel (cancel)"}));
     EXPECT_EQ(takeHidingLog(), Texts{"present"});
     tapAlertAction("Cancel");
 
