@@ -6,7 +6,6 @@
 #include "frameworks/CoreFoundation/CoreFoundation.h"
 #include "frameworks/RocketBootstrap/RocketBootstrap.h"
 #include "hosts/host.h"
-#include "loader/loader.h"
 
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
@@ -19,15 +18,11 @@ namespace {
 using nlohmann::json;
 
 json toJson(const Installation& installation) {
-    const LoadedLibrary* image = loadedLibraryContaining(installation.implementation);
     return {
         {"kind", installation.kind == Installation::Kind::replaced ? "replaced" : "added"},
         {"class", installation.className},
         {"method", std::string(1, installation.methodKind) + installation.selector},
-        {"encoding", installation.encoding},
-        {"slot", reinterpret_cast<std::uintptr_t>(installation.slot)},
         {"installed", installation.installed},
-        {"image", image == nullptr ? "" : image->path},
     };
 }
 
@@ -41,11 +36,6 @@ json hooks() {
 json ready() {
     return {{"release", releaseName(currentRelease())},
             {"coreFoundationVersion", kCFCoreFoundationVersionNumber}};
-}
-
-json advanceClock(const json& request) {
-    clock().advance(request.at("seconds").get<double>());
-    return {{"now", clock().now()}};
 }
 
 void postNotification(const json& request) {
@@ -80,7 +70,8 @@ std::string text(const json& request, const char* key) { return request.at(key).
 __attribute__((constructor)) void registerVerbs() {
     registerVerb("ready", ready);
     registerVerb("hooks", hooks);
-    registerVerb("advanceClock", advanceClock);
+    registerVerb("advanceClock",
+                 [](const json& request) { clock().advance(request.at("seconds").get<double>()); });
     registerVerb("postNotification", postNotification);
     registerVerb("sendMessage", sendMessage);
     registerVerb("viewTree", viewTreeAsJson);

@@ -35,13 +35,12 @@
 @property (nonatomic, readonly) UINavigationBar* navigationBar;
 @property (nonatomic, readonly) UIToolbar* toolbar;
 @property (nonatomic, getter=isToolbarHidden) BOOL toolbarHidden;
-@property (nonatomic, copy) NSArray* viewControllers;
+@property (nonatomic, readonly) NSArray* viewControllers;
 @property (nonatomic, readonly, assign) UIViewController* topViewController;
 - (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated;
 // The popped controller; nil when only the root is left.
 - (UIViewController*)popViewControllerAnimated:(BOOL)animated;
 // The popped controllers, empty when the root was on top.
 - (NSArray*)popToRootViewControllerAnimated:(BOOL)animated;
-- (NSArray*)popToViewController:(UIViewController*)controller animated:(BOOL)animated;
 
 @end

@@ -72,10 +72,6 @@ constexpr CGFloat barHeight = 44;
     return [self childViewControllers];
 }
 
-- (void)setViewControllers:(NSArray*)controllers {
-    [self setStack:controllers animated:NO];
-}
-
 - (UIViewController*)topViewController {
     return [[self childViewControllers] lastObject];
 }
@@ -95,10 +91,6 @@ constexpr CGFloat barHeight = 44;
 
 - (NSArray*)popToRootViewControllerAnimated:(BOOL)animated {
     return [self popToDepth:1 animated:animated];
-}
-
-- (NSArray*)popToViewController:(UIViewController*)controller animated:(BOOL)animated {
-    return [self popToDepth:[[self childViewControllers] indexOfObject:controller] + 1 animated:animated];
 }
 
 // Takes away all but the first `depth` controllers and returns what was taken.

@@ -26,6 +26,5 @@
 @property (nonatomic, readonly) UITabBar* tabBar;
 @property (nonatomic, copy) NSArray* viewControllers;
 @property (nonatomic, assign) UIViewController* selectedViewController;
-@property (nonatomic) NSUInteger selectedIndex;
 
 @end

@@ -69,14 +69,6 @@ constexpr CGFloat tabBarHeight = 49;
     if (old != controller && [self isViewLoaded]) [self showChildInsteadOf:old animated:NO];
 }
 
-- (NSUInteger)selectedIndex {
-    return [[self childViewControllers] indexOfObject:_selectedViewController];
-}
-
-- (void)setSelectedIndex:(NSUInteger)index {
-    [self setSelectedViewController:[[self childViewControllers] objectAtIndex:index]];
-}
-
 - (UIViewController*)shownChild {
     return _selectedViewController;
 }

@@ -6,17 +6,13 @@
 
 @class UINavigationController, UINavigationItem, UIPopoverPresentationController, UITabBarController,
     UITabBarItem;
+@protocol UIViewControllerTransitionCoordinator;
 
 typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
     UIModalPresentationFullScreen = 0,
     UIModalPresentationCustom = 4,
     UIModalPresentationPopover = 7,
 };
-
-@protocol UIViewControllerTransitionCoordinator <NSObject>
-- (BOOL)animateAlongsideTransition:(void (^)(id context))animation
-                        completion:(void (^)(id context))completion;
-@end
 
 @interface UIViewController : UIResponder {
   @private

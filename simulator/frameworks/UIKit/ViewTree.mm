@@ -20,8 +20,8 @@ UIView* touchAtMiddle(UIView* view, Touch touch) {
     if (window == nil) throw std::invalid_argument("the view to touch is not in a window");
     const CGRect bounds = [view bounds];
     const CGPoint middle = CGPointMake(CGRectGetMidX(bounds), CGRectGetMidY(bounds));
-    touch.pointInWindow = [view convertPoint:middle toView:nil];
-    touch.hitView = [[[window hitTest:touch.pointInWindow withEvent:nil] retain] autorelease];
+    UIView* hit = [window hitTest:[view convertPoint:middle toView:nil] withEvent:nil];
+    touch.hitView = [[hit retain] autorelease];
     if (touch.hitView == nil) return nil;
     deliver(touch);
     layoutWindows();

@@ -7,10 +7,9 @@
 
 namespace simulator {
 
-// One finger's doing at one place: so many taps, or a press held for some seconds.
+// One finger's doing at one view: so many taps, or a press held for some seconds.
 struct Touch {
     UIView* hitView = nil;
-    CGPoint pointInWindow = {};
     NSUInteger taps = 0; // 0 for a press
     double seconds = 0;
 };

@@ -5,7 +5,6 @@
 #import "UIKit/internal/Ownership.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace simulator {
 
@@ -40,13 +39,6 @@ void tapControl(UIControl* control, NSUInteger taps) {
         [control sendActionsForControlEvents:UIControlEventTouchUpInside];
 }
 
-void tapTabBar(UITabBar* bar, const Touch& touch) {
-    UITabBarController* controller = as<UITabBarController>([bar _viewControllerForAncestor]);
-    const CGFloat place = [bar convertPoint:touch.pointInWindow fromView:nil].x / [bar bounds].size.width;
-    const auto count = static_cast<CGFloat>([[bar items] count]);
-    if (count > 0) [controller setSelectedIndex:static_cast<NSUInteger>(place * count)];
-}
-
 // What a view does with a touch of its own accord.
 bool handles(UIView* view, const Touch& touch) {
     if (UIControl* control = as<UIControl>(view))
@@ -55,8 +47,6 @@ bool handles(UIView* view, const Touch& touch) {
         [enclosing<UITableView>(view) tapCell:row];
     else if (UICollectionViewCell* cell = as<UICollectionViewCell>(view))
         [enclosing<UICollectionView>(view) tapCell:cell];
-    else if (UITabBar* bar = as<UITabBar>(view))
-        tapTabBar(bar, touch);
     else
         return false;
     return true;
