@@ -27,15 +27,14 @@ requirePreset() {
 
 # Copies lines to a file; of those that count, as Ninja's "[3/12]" and CTest's "3/12" do, every tenth part is told.
 tellProgress() {
-    awk -v name="$1" -v log_file="$2" '
-        { print >log_file }
-        match($0, /^ *\[?[0-9]+\/[0-9]+/) {
-            split(substr($0, RSTART, RLENGTH), number, "/")
-            sub(/[^0-9]*/, "", number[1])
-            tenth = int(10 * number[1] / number[2])
-            if (tenth > told) { printf "  %s: %d of %d\n", name, number[1], number[2]; fflush() }
-            told = tenth
-        }'
+    local name=$1 line told=0 tenth
+    while IFS= read -r line; do
+        printf '%s\n' "$line" >&3
+        [[ $line =~ ^[[:space:]]*\[?([0-9]+)/([0-9]+)[][:space:]] ]] || continue
+        tenth=$((10 * BASH_REMATCH[1] / BASH_REMATCH[2]))
+        [[ $tenth -le $told ]] || say "  $name: ${BASH_REMATCH[1]} of ${BASH_REMATCH[2]}"
+        told=$tenth
+    done 3>"$2"
 }
 
 # Configures and builds one preset (in the folder BUILD when that is set), or only the targets named after it; what the
