@@ -1,6 +1,7 @@
 #include "frameworks/Foundation/PropertyLists.h"
 
 #include "device/strings.h"
+#include "device/xml.h"
 #include "frameworks/ObjectiveC/Replacement.h"
 
 #import <GNUstepBase/NSProcessInfo+GNUstepBase.h>
@@ -22,13 +23,7 @@ namespace simulator {
 namespace {
 
 std::string element(const std::string& name, NSString* content) {
-    std::string text;
-    for (const char letter : simulator::text(content))
-        text += letter == '<'   ? "&lt;"
-                : letter == '>' ? "&gt;"
-                : letter == '&' ? "&amp;"
-                                : std::string(1, letter);
-    return "<" + name + ">" + text + "</" + name + ">\n";
+    return "<" + name + ">" + escapedForXml(text(content)) + "</" + name + ">\n";
 }
 
 // Empty for what is no property list.

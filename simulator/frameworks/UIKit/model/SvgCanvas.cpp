@@ -1,5 +1,7 @@
 #include "UIKit/model/SvgCanvas.h"
 
+#include "device/xml.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -23,23 +25,10 @@ std::string paint(const char* what, SvgColor color) {
     return out.str();
 }
 
-struct Entity {
-    char character;
-    const char* reference;
-};
-constexpr Entity entities[] = {{'<', "&lt;"}, {'>', "&gt;"}, {'&', "&amp;"}, {'"', "&quot;"}};
-
 // Control characters have no place in the document, not even escaped.
-std::string escaped(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        const auto entity = std::ranges::find(entities, c, &Entity::character);
-        if (entity != std::end(entities))
-            result += entity->reference;
-        else
-            result += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
-    }
-    return result;
+std::string escaped(std::string text) {
+    std::ranges::replace_if(text, [](char letter) { return static_cast<unsigned char>(letter) < 0x20; }, ' ');
+    return escapedForXml(text);
 }
 
 } // namespace
@@ -80,7 +69,7 @@ void SvgCanvas::line(CGRect rect, std::string_view text, const SvgText& style) {
           << "\" text-anchor=\"" << anchors[static_cast<std::size_t>(alignment)] << '"'
           << paint("fill", style.color);
     if (style.bold) m_out << " font-weight=\"bold\"";
-    m_out << '>' << escaped(text) << "</text>\n";
+    m_out << '>' << escaped(std::string(text)) << "</text>\n";
 }
 
 void SvgCanvas::picture(CGRect rect, std::string_view png) {
