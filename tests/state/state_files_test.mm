@@ -54,6 +54,7 @@ TEST_F(StateFiles, an_album_locked_in_photos_is_locked_for_others) {
     EXPECT_TRUE(lists("Family"));
     startSpringBoard();
     startPhotos();
+    waitFor([&] { return areLocked({}); }); // the album list has made the missing list
     toggleLock("Family");
     waitFor([&] { return areLocked({"Family"}); });
     toggleLock("Holidays");
