@@ -6,6 +6,7 @@
 #include "frameworks/CoreFoundation/CoreFoundation.h"
 #include "frameworks/RocketBootstrap/RocketBootstrap.h"
 #include "hosts/host.h"
+#include "loader/loader.h"
 
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
@@ -18,11 +19,13 @@ namespace {
 using nlohmann::json;
 
 json toJson(const Installation& installation) {
+    const LoadedLibrary* file = loadedLibraryContaining(installation.implementation);
     return {
         {"kind", installation.kind == Installation::Kind::replaced ? "replaced" : "added"},
         {"class", installation.className},
         {"method", std::string(1, installation.methodKind) + installation.selector},
         {"installed", installation.installed},
+        {"image", file == nullptr ? "" : file->path},
     };
 }
 
