@@ -1,9 +1,10 @@
-# add_device_library(NAME FILE file KIND -dylib;-install_name;… SOURCES … INCLUDE … FRAMEWORKS … WEAK …)
+# add_device_library(NAME FILE file IDENTIFIER identifier KIND -dylib;-install_name;… SOURCES … INCLUDE … FRAMEWORKS …
+#                    WEAK …)
 #
 # What a device loads: on Linux a shared object whose imports the stand-ins satisfy; for the phone FILE, a library or
-# bundle for iOS 7 and later on arm64. FRAMEWORKS and WEAK name the text stubs in package/stubs that satisfy it there.
+# bundle for iOS 7 and later on arm64, signed as IDENTIFIER. FRAMEWORKS and WEAK name the text stubs in package/stubs that satisfy it there.
 function(add_device_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 device "" "FILE" "KIND;SOURCES;INCLUDE;FRAMEWORKS;WEAK")
+    cmake_parse_arguments(PARSE_ARGV 1 device "" "FILE;IDENTIFIER" "KIND;SOURCES;INCLUDE;FRAMEWORKS;WEAK")
     set(options -fblocks -fno-exceptions -fno-rtti -fvisibility=hidden -fvisibility-inlines-hidden -funwind-tables)
     if(ROLLKEEPER_PHONE)
         add_library(${name}_objects OBJECT ${device_SOURCES})
@@ -40,11 +41,14 @@ function(add_device_library name)
     endforeach()
     # CMake knows no iOS linker outside Xcode, so we call it. Nothing will ever be encrypted: without that possibility
     # the load commands need no page of their own.
+    set(signer "${CMAKE_SOURCE_DIR}/cmake/sign.py")
     add_custom_command(OUTPUT "${library}"
-        COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 ${device_KIND} -adhoc_codesign -dead_strip -x
-                -no_encryption -fatal_warnings -o "${library}" "${linked}" ${stubArguments}
+        COMMAND ld64.lld-19 -arch arm64 -platform_version ios 7.0 12.0 ${device_KIND} -no_adhoc_codesign -dead_strip -x
+                -no_encryption -fatal_warnings -o "${library}.unsigned" "${linked}" ${stubArguments}
+        COMMAND "${Python3_EXECUTABLE}" -B "${signer}" ${device_IDENTIFIER} "${library}.unsigned" "${library}"
         COMMAND_EXPAND_LISTS VERBATIM
-        DEPENDS "${linked}" ${stubs}
+        BYPRODUCTS "${library}.unsigned"
+        DEPENDS "${linked}" ${stubs} "${signer}"
         COMMENT "Linking ${device_FILE} for the phone")
     add_custom_target(${name} ALL DEPENDS "${library}")
 endfunction()

@@ -12,7 +12,6 @@ import subprocess
 import sys
 import tempfile
 
-LARGEST_SIZE = 128 * 1024
 FRAMEWORKS = "/System/Library/Frameworks"
 
 # Install name: (compatibility version, weak). A greater version than the device's makes its loader refuse; what came
@@ -28,6 +27,8 @@ EVERYWHERE = {
 }
 LIBRARY = {
     "file type": "6",
+    "largest size": 120 * 1024,
+    "identifier": "com.nrv.rollkeeper",
     "install name": ["/Library/MobileSubstrate/DynamicLibraries/rollkeeper.dylib"],
     "initialisers": 2,
     "dependencies": EVERYWHERE
@@ -45,8 +46,16 @@ COMMANDS = {
 INITIALISERS = 0x09
 # Content, zeros, literals, pointers to imports and stubs for them: no terminators, no thread-local variables.
 SECTION_TYPES = {0x00, 0x01, 0x02, 0x03, 0x04, 0x0E, 0x06, 0x07, 0x08, INITIALISERS}
-# How the pages of a code directory may be hashed, by the number that says so. Each must be there once.
-HASHES = {2: "sha256"}
+# A signature's slots: the requirements, of which there are none, and a code directory for each hash and its number.
+REQUIREMENTS_SLOT, REQUIREMENTS = 2, struct.pack(">3I", 0xFADE0C01, 12, 0)
+DIRECTORIES = {0: ("sha1", 1), 0x1000: ("sha256", 2)}
+# A code directory up to its identifier.
+DIRECTORY = struct.Struct(">9I4B4I4Q")
+FIELDS = (
+    *("magic", "length", "version", "flags", "hash offset", "identifier offset", "special count", "page count"),
+    *("code limit", "hash size", "hash", "platform", "page size", "spare", "scatter", "team", "second spare"),
+    *("64-bit code limit", "text offset", "text size", "text flags"),
+)
 
 
 class Damaged(Exception):
@@ -91,8 +100,8 @@ def header_faults(image, expected):
             yield f"its {field} is {image.header[field]}, not {value}"
     if not int(image.header["flags"], 16) & 0x80:
         yield "its imports do not name their libraries"
-    if len(image.data) > LARGEST_SIZE:
-        yield f"it has {len(image.data)} bytes, more than {LARGEST_SIZE}"
+    if len(image.data) > expected["largest size"]:
+        yield f"it has {len(image.data)} bytes, more than {expected['largest size']}"
 
 
 def command_faults(image, expected):
@@ -154,39 +163,68 @@ def unwind_faults(image):
             yield f"the function at {offset} cannot be unwound (encoding {encoding})"
 
 
-def signature_faults(image):
-    for command in image.of("LC_CODE_SIGNATURE"):
-        start, size = int(command["dataoff"]), int(command["datasize"])
-        if start + size != len(image.data):
-            yield "the code signature does not end with the file"
-        magic, length, count = struct.unpack_from(">3I", image.data, start)
-        if magic != 0xFADE0CC0 or length > size:
-            yield "the code signature is damaged"
-            return
-        blobs = [struct.unpack_from(">II", image.data, start + 12 + 8 * index) for index in range(count)]
-        directories = [start + offset for slot, offset in blobs if slot == 0 or slot >> 12 == 1]
-        kinds = [image.data[directory + 37] for directory in directories]
-        if sorted(kinds) != sorted(HASHES):
-            yield f"its pages are hashed as {kinds}, not as {sorted(HASHES)}"
-        for directory in directories:
-            yield from directory_faults(image.data, directory, start)
+def signature_faults(image, identifier):
+    """What some kernel from iOS 7 to 12 would refuse, misread or find changed."""
     if len(image.of("LC_CODE_SIGNATURE")) != 1:
         yield "it has no code signature"
+        return
+    command, linkedit = image.of("LC_CODE_SIGNATURE")[0], image.of("LC_SEGMENT_64")[-1]
+    start, size = int(command["dataoff"]), int(command["datasize"])
+    if start + size != len(image.data) or start % 16 or size % 16:
+        yield "the code signature does not end with the file or is not aligned"
+    first, length, memory = (int(linkedit[name], 0) for name in ("fileoff", "filesize", "vmsize"))
+    if linkedit["segname"] != "__LINKEDIT" or first + length != start + size or memory % 0x4000 or memory < length:
+        yield "the last segment is not __LINKEDIT, does not end with the signature or has no room for it in memory"
+    for data, end in linked_data(image):
+        if not first <= data <= end <= start:
+            yield f"data for the loader lies from {data} to {end}, outside __LINKEDIT or within the signature"
+    yield from blob_faults(image, start, size, identifier)
 
 
-def directory_faults(data, directory, limit):
-    (magic, _, _, flags, hashes, identifier, _, count, code_limit, hash_size, kind, _, page_bits) = struct.unpack_from(
-        ">9I4B", data, directory
-    )
-    if magic != 0xFADE0C02 or not flags & 0x2 or not data[directory + identifier]:
-        yield "the code directory is damaged, not ad hoc or without an identifier"
-    pages = [data[start : min(start + (1 << page_bits), limit)] for start in range(0, limit, 1 << page_bits)]
-    if (code_limit, count) != (limit, len(pages)):
-        yield f"the code signature covers {code_limit} bytes in {count} pages instead of {limit} in {len(pages)}"
-    for index, page in enumerate(pages):
-        stored = data[directory + hashes + hash_size * index :][:hash_size]
-        if kind in HASHES and hashlib.new(HASHES[kind], page).digest() != stored:
-            yield f"page {index} is not what was signed"
+def linked_data(image):
+    """Where each part of __LINKEDIT but the signature begins and ends."""
+    names = [(f"{kind}_off", f"{kind}_size") for kind in ("rebase", "bind", "weak_bind", "lazy_bind", "export")]
+    for command in image.of("LC_DYLD_INFO_ONLY", "LC_SYMTAB", "LC_FUNCTION_STARTS", "LC_DATA_IN_CODE"):
+        for offset, size in [*names, ("stroff", "strsize"), ("dataoff", "datasize")]:
+            if int(command.get(size, "0")):
+                yield int(command[offset]), int(command[offset]) + int(command[size])
+
+
+def blob_faults(image, start, size, identifier):
+    signature = image.data[start : start + size]
+    magic, length, count = struct.unpack_from(">3I", signature)
+    slots = [struct.unpack_from(">II", signature, 12 + 8 * index) for index in range(count)]
+    if magic != 0xFADE0CC0 or [slot for slot, _ in slots] != sorted([REQUIREMENTS_SLOT, *DIRECTORIES]):
+        yield f"the code signature is damaged or has other slots than it should: {slots}"
+        return
+    offsets = [offset for _, offset in slots] + [length]
+    blobs = {slot: signature[offset:end] for (slot, offset), end in zip(slots, offsets[1:])}
+    lengths = [struct.unpack_from(">I", blob, 4)[0] for blob in blobs.values()]
+    if offsets[0] != 12 + 8 * count or lengths != [len(blob) for blob in blobs.values()] or size - length not in range(16):
+        yield "the signature's blobs do not lie one behind the other"
+    if blobs[REQUIREMENTS_SLOT] != REQUIREMENTS or any(signature[length:]):
+        yield "the signature's requirements are not the empty ones, or its end is not empty"
+    for slot, kind in DIRECTORIES.items():
+        yield from directory_faults(image, start, blobs[slot], kind, identifier.encode() + b"\0")
+
+
+def directory_faults(image, limit, directory, kind, identifier):
+    name, number = kind
+    pages = [image.data[page : min(page + 0x1000, limit)] for page in range(0, limit, 0x1000)]
+    requirements, *digests = [hashlib.new(name, content).digest() for content in [REQUIREMENTS, *pages]]
+    names = identifier + requirements + bytes(len(requirements))
+    text = next(each for each in image.of("LC_SEGMENT_64") if each["segname"] == "__TEXT")
+    hashes = DIRECTORY.size + len(names)
+    wanted = (0xFADE0C02, hashes + sum(map(len, digests)), 0x20400, 0, hashes, DIRECTORY.size, 2, len(pages), limit)
+    wanted += (len(requirements), number, 0, 12, 0, 0, 0, 0, 0, int(text["fileoff"]), int(text["filesize"]), 0)
+    for field, found, value in zip(FIELDS, DIRECTORY.unpack_from(directory), wanted, strict=True):
+        if found != value:
+            yield f"the {name} directory's {field} is {found}, not {value}"
+    if directory[DIRECTORY.size : hashes] != names:
+        yield f"the {name} directory has another identifier, Info.plist or requirements"
+    for index, digest in enumerate(digests):
+        if directory[hashes + len(digest) * index :][: len(digest)] != digest:
+            yield f"page {index} is not what was signed by {name}"
 
 
 def allowed_imports(path):
@@ -200,7 +238,8 @@ def faults(data, expected, allowed):
         image = Image(data)
         checks = (header_faults, command_faults, dependency_faults, section_faults)
         found = [fault for check in checks for fault in check(image, expected)]
-        return found + [*import_faults(image, expected, allowed), *unwind_faults(image), *signature_faults(image)]
+        found += [*import_faults(image, expected, allowed), *unwind_faults(image)]
+        return found + [*signature_faults(image, expected["identifier"])]
     except (Damaged, IndexError, KeyError, TypeError, ValueError, struct.error) as problem:
         return [f"it cannot be read: {problem!r}"]
 

@@ -8,7 +8,7 @@ import struct
 import sys
 import unittest
 
-from check_dylib import LIBRARY, allowed_imports, faults
+from check_dylib import DIRECTORIES, DIRECTORY, FIELDS, LIBRARY, allowed_imports, faults
 
 with open(sys.argv[1], "rb") as opened:
     SOUND = opened.read()
@@ -37,20 +37,27 @@ def section(name):
     return header, struct.unpack_from("<I", SOUND, header + 48)[0]
 
 
+def blob(slot):
+    """Where a blob of the signature lies."""
+    index = [struct.unpack_from(">I", SOUND, SIGNATURE + 12 + 8 * each)[0] for each in range(3)].index(slot)
+    return SIGNATURE + struct.unpack_from(">I", SOUND, SIGNATURE + 16 + 8 * index)[0]
+
+
 TEXT = section(b"__text")[1]
 INITIALISERS = section(b"__mod_init_func")[0]
 UNWINDING, UNWIND_INFO = section(b"__unwind_info")
 COMMON_ENCODINGS, ENCODING_COUNT = struct.unpack_from("<II", SOUND, UNWIND_INFO + 4)
 FIXUPS = command(0x80000022)
 SIGNATURE = struct.unpack_from("<I", SOUND, command(0x1D) + 8)[0]
+LINKEDIT = SOUND.index(b"__LINKEDIT") - 8
 # A tree of exports with one leaf, _x, is put behind the file.
-EXPORTS = struct.pack("<II", len(SOUND), 10)
+WITH_EXPORT = with_bytes(FIXUPS + 40, struct.pack("<II", len(SOUND), 10)) + b"\0\1_x\0\6\2\0\0\0"
 
 DAMAGES = {
     "changed code": (with_bytes(TEXT, bytes([SOUND[TEXT] ^ 1])), "is not what was signed"),
     "half a file": (SOUND[: len(SOUND) // 2], "cannot be read"),
     "nothing": (b"", "cannot be read"),
-    "a byte after the signature": (SOUND + b"\0", "does not end with the file"),
+    "bytes after the signature": (SOUND + bytes(16), "does not end with the file"),
     "another processor": (with_number(4, 0x01000007), "its cputype is 16777223"),
     "an authenticated variant": (with_number(8, 2), "its cpusubtype is 2"),
     "a stub of a library": (with_number(12, 9), "its filetype is 9"),
@@ -71,18 +78,37 @@ DAMAGES = {
         "cannot be unwound",
     ),
     "a large file": (SOUND + bytes(128 * 1024), "more than"),
-    "an export": (with_bytes(FIXUPS + 40, EXPORTS) + b"\0\1_x\0\6\2\0\0\0", "it exports _x"),
+    "an export": (WITH_EXPORT, "it exports _x"),
     "no signature": (with_number(command(0x1D), 0x2E), "it has no code signature"),
-    "a damaged signature": (with_number(SIGNATURE, 0), "the code signature is damaged"),
-    "another hash": (
-        SOUND[:SIGNATURE] + SOUND[SIGNATURE:].replace(b"\x20\x02\0\x0c", b"\x20\x01\0\x0c", 1),
-        "its pages are hashed as [1]",
+    "no signature's magic": (with_number(SIGNATURE, 0), "the code signature is damaged"),
+    "a slot less": (with_number(SIGNATURE + 8, 0x02000000), "has other slots"),
+    "slots in another order": (with_bytes(SIGNATURE + 12, SOUND[SIGNATURE + 20 :][:8] * 2), "has other slots"),
+    "a gap in the signature": (with_bytes(SIGNATURE + 7, bytes([SOUND[SIGNATURE + 7] ^ 1])), "do not lie one behind the other"),
+    "requirements": (with_bytes(blob(2) + 11, b"\1"), "are not the empty ones"),
+    "a signature out of line": (
+        with_bytes(command(0x1D) + 8, struct.pack("<II", SIGNATURE + 8, len(SOUND) - SIGNATURE - 8)),
+        "is not aligned",
     ),
-    "a signature that is not ad hoc": (
-        SOUND[:SIGNATURE] + SOUND[SIGNATURE:].replace(b"\0\x02\0\x02", b"\0\0\0\0", 1),
-        "not ad hoc",
-    ),
+    "a short last segment": (with_number(LINKEDIT + 48, 0x10), "does not end with the signature"),
+    "little memory": (with_number(LINKEDIT + 32, 0), "has no room for it in memory"),
+    "an export behind the signature": (WITH_EXPORT, "data for the loader lies from"),
 }
+
+
+def damaged_directory(slot, name):
+    """Every field, the identifier and the special slots of a directory, each with another value, and two of its pages."""
+    start, sizes = blob(slot), [4] * 9 + [1] * 4 + [4] * 4 + [8] * 4
+    for index, field in enumerate(FIELDS):
+        last = start + sum(sizes[: index + 1]) - 1
+        yield with_bytes(last, bytes([SOUND[last] ^ 1])), f"the {name} directory's {field} is "
+    (hashes,) = struct.unpack_from(">I", SOUND, start + 16)
+    (end,) = struct.unpack_from(">I", SOUND, start + 4)
+    for offset in (DIRECTORY.size, hashes - 1, hashes // 2 + 44 + 12):
+        yield with_bytes(start + offset, b"\xee"), f"the {name} directory has another identifier, Info.plist or"
+    last_page = (SIGNATURE - 1) // 4096
+    for offset, page in ((hashes, 0), (end - 1, last_page)):
+        yield with_bytes(start + offset, bytes([SOUND[start + offset] ^ 1])), f"page {page} is not what was signed by {name}"
+    yield with_bytes(SIGNATURE - 1, b"\xee"), f"page {last_page} is not what was signed by {name}"
 
 
 class DamagedCopies(unittest.TestCase):
@@ -97,6 +123,13 @@ class DamagedCopies(unittest.TestCase):
             with self.subTest(name):
                 self.assertNotEqual(data, SOUND)
                 self.expect(faults(data, LIBRARY, ALLOWED), fault)
+
+    def test_every_damage_to_a_code_directory_is_found(self):
+        for slot, (name, _) in DIRECTORIES.items():
+            for data, fault in damaged_directory(slot, name):
+                with self.subTest(fault):
+                    self.assertNotEqual(data, SOUND)
+                    self.expect(faults(data, LIBRARY, ALLOWED), fault)
 
     def test_imports_are_those_of_the_list(self):
         more = ALLOWED | {("_dlopen", "/usr/lib/libSystem.B.dylib")}

@@ -29,11 +29,16 @@ PICTURES = {  # points, square
     **{f"{RESOURCES}/whitelock": 50, f"{RESOURCES}/padlock": 180, f"{BUNDLE}/icon": 29},
 }
 CONTROL = {"Package": "com.nrv.rollkeeper", "Architecture": "iphoneos-arm"}
-NEEDED = {"mobilesubstrate", "com.rpetrich.rocketbootstrap", "preferenceloader", "firmware (>= 7.0)"}
+NEEDED = {
+    *("mobilesubstrate", "com.rpetrich.rocketbootstrap", "preferenceloader"),
+    *("firmware (>= 7.0)", "firmware (<< 13.0)"),
+}
 SCRIPTS = {"/postinst", "/postrm"}
 
 PANE = {
     "file type": "8",
+    "largest size": 64 * 1024,
+    "identifier": "com.nrv.rollkeeper.preferences",
     "install name": [],
     "initialisers": 1,
     "dependencies": EVERYWHERE

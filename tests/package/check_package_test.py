@@ -57,6 +57,7 @@ DAMAGES = [
     (text("/control", "iphoneos-arm", "arm64"), "Architecture is arm64"),
     (text("/control", "mobilesubstrate, ", ""), "depend on mobilesubstrate"),
     (text("/control", "firmware (>= 7.0), ", ""), "depend on firmware (>= 7.0)"),
+    (text("/control", "firmware (<< 13.0), ", ""), "depend on firmware (<< 13.0)"),
     (text("/control", "Installed-Size: ", "Installed-Size: 9"), "Installed-Size is 9"),
     (text("/control", "Maintainer:", "Maintained:"), "has no Maintainer"),
     (content("/postinst", lambda old: old + b"killall SpringBoard\n"), "/postinst is no shell script or does more"),
@@ -77,6 +78,7 @@ DAMAGES = [
     (content(DYLIB, lambda data: data[:5000] + b"\0\1\2\3" + data[5004:]), "the library: page"),
     (content(EXECUTABLE, lambda data: data[:5000] + b"\0\1\2\3" + data[5004:]), "the pane's executable: page"),
     (content(EXECUTABLE, lambda data: data[:8] + b"\2" + data[9:]), "the pane's executable: its cpusubtype is 2"),
+    (content(EXECUTABLE, lambda data: data + bytes(1 << 16)), "bytes, more than 65536"),
 ]
 
 
