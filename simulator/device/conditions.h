@@ -36,11 +36,12 @@ struct Faults {
     bool operator==(const Faults&) const = default;
 };
 
-// The two kinds of method-hooking framework that exist differ in these points; correct libraries work under
-// both.
+// The two kinds of method-hooking framework that exist differ in the first two points; correct libraries work
+// under both.
 struct HookingStyle {
     bool slotWrittenFirst = true;       // the original's slot is written before the replacement is installed
     bool inheritedResolvedLate = false; // an inherited original is looked up at each call, not at hook time
+    bool callsNoted = false;            // each call of what a library installed is noted, for a person to see
 
     bool operator==(const HookingStyle&) const = default;
 };

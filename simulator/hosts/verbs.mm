@@ -4,6 +4,7 @@
 #include "device/releases.h"
 #include "frameworks/AppSupport/AppSupport.h"
 #include "frameworks/CoreFoundation/CoreFoundation.h"
+#include "frameworks/Hooking/HookCalls.h"
 #include "frameworks/RocketBootstrap/RocketBootstrap.h"
 #include "hosts/host.h"
 #include "loader/loader.h"
@@ -11,6 +12,7 @@
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
 
+#include <cmath>
 #include <stdexcept>
 
 namespace simulator {
@@ -34,6 +36,42 @@ json hooks() {
     for (const Installation& installation : installationLog())
         list.push_back(toJson(installation));
     return {{"hooks", list}};
+}
+
+json calls() {
+    json list = json::array();
+    for (const HookCalls& each : hookCalls())
+        list.push_back({{"method", each.method}, {"count", each.count}, {"lastCall", each.lastCall}});
+    return {{"calls", list}};
+}
+
+// The picture and the places to touch on it, rounded to whole points.
+json screen() {
+    const Picture picture = screenPicture();
+    json spots = json::array();
+    for (const Spot& spot : reachableSpots(picture))
+        spots.push_back({{"kind", spot.kind},
+                         {"label", spot.label},
+                         {"state", spot.state},
+                         {"rect",
+                          {std::lround(spot.rect.origin.x), std::lround(spot.rect.origin.y),
+                           std::lround(spot.rect.size.width), std::lround(spot.rect.size.height)}}});
+    return {{"svg", picture.svg}, {"spots", spots}};
+}
+
+CGPoint pointOf(const json& request) {
+    return {request.at("x").get<CGFloat>(), request.at("y").get<CGFloat>()};
+}
+
+void touch(const json& request) {
+    if (request.contains("seconds"))
+        longPressAt(pointOf(request), request["seconds"].get<double>());
+    else
+        tapAt(pointOf(request), request.value("taps", 1U));
+}
+
+void scroll(const json& request) {
+    scrollAt(pointOf(request), {request.value("right", 0.0), request.value("down", 0.0)});
 }
 
 json ready() {
@@ -82,8 +120,16 @@ __attribute__((constructor)) void registerVerbs() {
     registerVerb("tap", [](const json& request) { tap(namedView(request)); });
     registerVerb("barButton", [](const json& request) { tapBarButton(text(request, "title")); });
     registerVerb("alertAction", [](const json& request) { tapAlertAction(text(request, "title")); });
-    registerVerb("type", [](const json& request) { typeText(0, text(request, "text")); });
+    registerVerb("type", [](const json& request) {
+        typeText(request.value("field", std::size_t{0}), text(request, "text"));
+    });
+    registerVerb("screen", screen);
+    registerVerb("touch", touch);
+    registerVerb("scroll", scroll);
+    registerVerb("followScreen", followScreen);
+    registerVerb("hookCalls", calls);
     registerVerb("enterBackground", [] { [[UIApplication sharedApplication] enterBackground]; });
+    registerVerb("enterForeground", [] { [[UIApplication sharedApplication] enterForeground]; });
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "device/conditions.h"
 #include "device/next_function.h"
+#include "frameworks/Hooking/HookCalls.h"
 #include "frameworks/Hooking/InstallationLog.h"
-#include "frameworks/Hooking/LateOriginal.h"
+#include "frameworks/Hooking/Trampoline.h"
 
 #include <objc/runtime.h>
 
@@ -27,6 +28,12 @@ void put(Class cls, Method method, bool own, IMP replacement) {
     add(cls, method_getName(method), replacement, method_getTypeEncoding(method));
 }
 
+// An original that is looked up when it is called: what some hooking frameworks hand out for inherited
+// methods.
+IMP lateOriginal(Class superclass, SEL selector) {
+    return trampoline([=] { return class_getMethodImplementation(superclass, selector); });
+}
+
 void install(Class cls, Method method, IMP replacement, IMP* slot) {
     const HookingStyle style = currentConditions()->hooking;
     const bool own = isOwnMethod(cls, method);
@@ -43,7 +50,8 @@ void install(Class cls, Method method, IMP replacement, IMP* slot) {
 
 extern "C" void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* slot) {
     Method method = cls == Nil ? nullptr : class_getInstanceMethod(cls, selector);
-    if (method != nullptr) simulator::install(cls, method, replacement, slot);
+    if (method != nullptr)
+        simulator::install(cls, method, simulator::notingCalls(cls, selector, replacement), slot);
     simulator::logInstallation({
         .kind = simulator::Installation::Kind::replaced,
         .className = cls == Nil ? "" : class_getName(cls),

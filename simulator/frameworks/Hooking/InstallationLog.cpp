@@ -13,6 +13,7 @@ void logInstallation(Installation installation) { log.push_back(std::move(instal
 
 void beginLoggingAddedMethods() { libraryIsLoading = true; }
 void endLoggingAddedMethods() { libraryIsLoading = false; }
+bool isLoggingAddedMethods() { return libraryIsLoading; }
 
 void logAddedMethod(Class cls, SEL selector, IMP implementation, const char* types, bool added) {
     if (!libraryIsLoading) return;

@@ -32,6 +32,7 @@ void logInstallation(Installation installation);
 // Between the two calls methods that the calling thread adds are logged as well.
 void beginLoggingAddedMethods();
 void endLoggingAddedMethods();
+bool isLoggingAddedMethods();
 void logAddedMethod(Class cls, SEL selector, IMP implementation, const char* types, bool added);
 
 } // namespace simulator

@@ -2,6 +2,7 @@
 // that every caller gets them, the frameworks of this machine included.
 #include "device/next_function.h"
 #include "device/releases.h"
+#include "frameworks/Hooking/HookCalls.h"
 #include "frameworks/Hooking/InstallationLog.h"
 #include "frameworks/ObjectiveC/Presence.h"
 
@@ -37,9 +38,12 @@ BOOL class_addMethod(Class cls, SEL selector, IMP implementation, const char* ty
     const auto find = NEXT_FUNCTION(class_getInstanceMethod);
     if (cls == Nil || selector == nullptr) return NO;
     const bool wasPresent = methodIsPresent(cls, selector);
-    bool added = add(cls, selector, implementation, types) != NO;
+    const IMP installed = simulator::isLoggingAddedMethods()
+                              ? simulator::notingCalls(cls, selector, implementation)
+                              : implementation;
+    bool added = add(cls, selector, installed, types) != NO;
     if (!added && !wasPresent) {
-        method_setImplementation(find(cls, selector), implementation);
+        method_setImplementation(find(cls, selector), installed);
         added = true;
     }
     if (added) simulator::noteAddedMethod(cls, selector);

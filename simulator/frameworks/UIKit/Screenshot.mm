@@ -1,6 +1,8 @@
 #import "UIKit/UIKit.h"
 #import "UIKit/ViewTree.h"
+#import "UIKit/internal/ActionTargets.h"
 #import "UIKit/internal/Casts.h"
+#import "UIKit/internal/ListView.h"
 #import "UIKit/internal/Text.h"
 #import "UIKit/internal/ViewInternals.h"
 #include "UIKit/model/SvgCanvas.h"
@@ -80,14 +82,20 @@ void drawTableCell(SvgCanvas& canvas, UITableViewCell* cell) {
 }
 
 // Buttons from the left edge on, or towards the right edge.
-void drawItems(SvgCanvas& canvas, CGRect bar, NSArray* items, bool fromTheRight) {
-    CGFloat x = fromTheRight ? CGRectGetMaxX(bar) - 10 : bar.origin.x + 10;
+void drawItems(SvgCanvas& canvas, UIView* bar, NSArray* items, bool fromTheRight) {
+    const CGRect bounds = [bar bounds];
+    CGFloat x = fromTheRight ? CGRectGetMaxX(bounds) - 10 : bounds.origin.x + 10;
     for (UIBarButtonItem* item in items) {
         NSString* title = [item title];
         const CGFloat width =
             sizeOfText(title, [UIFont systemFontOfSize : 17], { CGFLOAT_MAX, CGFLOAT_MAX }).width;
-        const CGRect rect = CGRectMake(fromTheRight ? x - width : x, bar.origin.y, width, bar.size.height);
+        const CGRect rect =
+            CGRectMake(fromTheRight ? x - width : x, bounds.origin.y, width, bounds.size.height);
         canvas.line(rect, text(title), {.color = blue, .alignment = 1});
+        canvas.spot(CGRectInset(rect, -8, 0),
+                    {.view = bar, .kind = "button", .label = text(title), .act = [item] {
+                         sendAction([item target], [item action], item);
+                     }});
         x += fromTheRight ? -width - 16 : width + 16;
     }
 }
@@ -102,9 +110,15 @@ void drawNavigationBar(SvgCanvas& canvas, UINavigationBar* bar) {
     if (left == nil && depth > 1) {
         UINavigationItem* back = [[bar items] objectAtIndex:depth - 2];
         canvas.line(CGRectInset(bounds, 10, 0), "< " + text([back title]), {.color = blue});
+        UINavigationController* controller = as<UINavigationController>([bar _viewControllerForAncestor]);
+        canvas.spot(
+            CGRectMake(0, 0, bounds.size.width / 3, bounds.size.height),
+            {.view = bar, .kind = "button", .label = "Back to " + text([back title]), .act = [controller] {
+                 [controller popViewControllerAnimated:YES];
+             }});
     }
-    drawItems(canvas, bounds, left, false);
-    drawItems(canvas, bounds, [item rightBarButtonItems], true);
+    drawItems(canvas, bar, left, false);
+    drawItems(canvas, bar, [item rightBarButtonItems], true);
 }
 
 void drawTabBar(SvgCanvas& canvas, UITabBar* bar) {
@@ -113,8 +127,15 @@ void drawTabBar(SvgCanvas& canvas, UITabBar* bar) {
     const CGFloat width = bounds.size.width / static_cast<CGFloat>(MAX([[bar items] count], 1U));
     CGFloat x = 0;
     for (UITabBarItem* item in [bar items]) {
-        canvas.line(CGRectMake(x, 0, width, bounds.size.height), text([item title]),
-                    {.size = 13, .color = item == [bar selectedItem] ? blue : gray, .alignment = 1});
+        const CGRect tab = CGRectMake(x, 0, width, bounds.size.height);
+        const bool isSelected = item == [bar selectedItem];
+        canvas.line(tab, text([item title]), {.size = 13, .color = isSelected ? blue : gray, .alignment = 1});
+        UITabBarController* controller = as<UITabBarController>([bar _viewControllerForAncestor]);
+        canvas.spot(tab, {.view = bar,
+                          .kind = "tab",
+                          .label = text([item title]),
+                          .state = isSelected ? "selected" : "",
+                          .act = [controller, item] { [controller tapItem:item]; }});
         x += width;
     }
 }
@@ -131,26 +152,30 @@ void drawContent(SvgCanvas& canvas, UIView* view) {
     if (UITabBar* bar = as<UITabBar>(view)) drawTabBar(canvas, bar);
     if (UIToolbar* bar = as<UIToolbar>(view)) {
         canvas.rectangle(bounds, barColor, 0, lineColor);
-        drawItems(canvas, bounds, [bar items], false);
+        drawItems(canvas, bar, [bar items], false);
     }
     if (as<UIActivityIndicatorView>(view) != nil)
         canvas.rectangle(bounds, {0, 0, 0, 0}, bounds.size.width / 2, gray);
     if (as<UIVisualEffectView>(view) != nil) canvas.rectangle(bounds, blurColor, [[view layer] cornerRadius]);
 }
 
-// A line of a panel: what it says and how.
+// A line of a panel: what it says and how, and what a tap on it does.
 struct PanelLine {
     std::string text;
     SvgText style;
     CGFloat height;
+    Spot spot = {}; // of no kind where there is nothing to tap
 };
 
 constexpr CGFloat panelWidth = 270;
 constexpr CGFloat panelPadding = 14;
 constexpr CGFloat panelButtonHeight = 44;
 
-PanelLine panelButton(NSString* title, SvgColor color, bool bold) {
-    return {text(title), {.size = 17, .color = color, .alignment = 1, .bold = bold}, panelButtonHeight};
+PanelLine panelButton(NSString* title, SvgColor color, bool bold, std::function<void()> act) {
+    return {text(title),
+            {.size = 17, .color = color, .alignment = 1, .bold = bold},
+            panelButtonHeight,
+            {.kind = "button", .label = text(title), .act = std::move(act)}};
 }
 
 std::vector<PanelLine> linesOf(UIAlertController* alert) {
@@ -167,11 +192,15 @@ std::vector<PanelLine> linesOf(UIAlertController* alert) {
     for (UITextField* field in [alert textFields])
         lines.push_back({"[ " + shownText(field) + " ]",
                          {.size = 14, .color = isEmpty(field) ? gray : black, .alignment = 1},
-                         30});
+                         30,
+                         {.kind = "textField",
+                          .label = text([field placeholder]),
+                          .state = [field isSecureTextEntry] ? "secure" : ""}});
     for (UIAlertAction* action in [alert actions]) {
         const bool destroys = [action style] == UIAlertActionStyleDestructive;
-        lines.push_back(
-            panelButton([action title], destroys ? red : blue, [action style] == UIAlertActionStyleCancel));
+        lines.push_back(panelButton([action title], destroys ? red : blue,
+                                    [action style] == UIAlertActionStyleCancel,
+                                    [alert, action] { [alert tapAction:action]; }));
     }
     return lines;
 }
@@ -179,12 +208,17 @@ std::vector<PanelLine> linesOf(UIAlertController* alert) {
 std::vector<PanelLine> linesOf(UIActivityViewController* sheet) {
     std::vector<PanelLine> lines;
     for (UISaveToCameraRollActivity* activity in [sheet offeredActivities])
-        lines.push_back(panelButton([activity activityTitle], blue, false));
+        lines.push_back(panelButton([activity activityTitle], blue, false, [sheet, activity] {
+            [sheet chooseActivityWithTitle:[activity activityTitle]];
+        }));
+    lines.push_back(panelButton(@"Cancel", blue, true,
+                                [sheet] { [sheet dismissViewControllerAnimated:YES completion:nil]; }));
     return lines;
 }
 
 // A panel over the dimmed screen: in the middle of it, or a sheet at its lower edge.
-void drawPanel(SvgCanvas& canvas, CGSize screen, const std::vector<PanelLine>& lines, bool isSheet) {
+void drawPanel(SvgCanvas& canvas, UIView* view, const std::vector<PanelLine>& lines, bool isSheet) {
+    const CGSize screen = [view bounds].size;
     CGFloat height = 2 * panelPadding;
     for (const PanelLine& line : lines)
         height += line.height;
@@ -198,6 +232,11 @@ void drawPanel(SvgCanvas& canvas, CGSize screen, const std::vector<PanelLine>& l
         if (line.height == panelButtonHeight)
             canvas.rectangle(CGRectMake(rect.origin.x, y, panelWidth, 0.5), lineColor);
         canvas.line(rect, line.text, line.style);
+        if (!line.spot.kind.empty()) {
+            Spot spot = line.spot;
+            spot.view = view;
+            canvas.spot(rect, std::move(spot));
+        }
         y += line.height;
     }
 }
@@ -206,14 +245,49 @@ void drawPanel(SvgCanvas& canvas, CGSize screen, const std::vector<PanelLine>& l
 bool drawsPanel(SvgCanvas& canvas, UIView* view) {
     UIViewController* controller = [view _viewControllerForAncestor];
     if (controller == nil || [controller viewIfLoaded] != view) return false;
-    const CGSize screen = [view bounds].size;
     UIAlertController* alert = as<UIAlertController>(controller);
     UIActivityViewController* sheet = as<UIActivityViewController>(controller);
     if (alert != nil)
-        drawPanel(canvas, screen, linesOf(alert),
-                  [alert preferredStyle] == UIAlertControllerStyleActionSheet);
-    if (sheet != nil) drawPanel(canvas, screen, linesOf(sheet), true);
+        drawPanel(canvas, view, linesOf(alert), [alert preferredStyle] == UIAlertControllerStyleActionSheet);
+    if (sheet != nil) drawPanel(canvas, view, linesOf(sheet), true);
     return alert != nil || sheet != nil;
+}
+
+// What a person reads in the view, the title of an album's cell first.
+std::string wordsIn(UIView* view) {
+    UILabel* label = as<UILabel>(view);
+    UITextField* field = as<UITextField>(view);
+    std::string words = label != nil ? text([label text]) : field != nil ? shownText(field) : "";
+    for (UIView* subview in [view subviews]) {
+        if ([subview isHidden] || as<UIControl>(subview) != nil) continue;
+        const std::string more = wordsIn(subview);
+        words += (words.empty() || more.empty() ? "" : ", ") + more;
+    }
+    return words;
+}
+
+std::string labelOf(UIControl* control) {
+    std::string words = wordsIn(control);
+    // A switch is called what its row says.
+    if (words.empty() && as<UISwitch>(control) != nil) words = wordsIn([control superview]);
+    if (words.empty()) words = text(NSStringFromClass([control class]));
+    return words;
+}
+
+// Whether a finger can act on the view itself: a control, a cell or something with gestures of its own.
+void addSpot(SvgCanvas& canvas, UIView* view) {
+    const CGRect bounds = [view bounds];
+    if (UISwitch* control = as<UISwitch>(view))
+        canvas.spot(bounds, {.view = view,
+                             .kind = "switch",
+                             .label = labelOf(control),
+                             .state = [control isOn] ? "on" : "off"});
+    else if (UIControl* control = as<UIControl>(view))
+        canvas.spot(bounds, {.view = view, .kind = "button", .label = labelOf(control)});
+    else if (as<ListCell>(view) != nil)
+        canvas.spot(bounds, {.view = view, .kind = "cell", .label = wordsIn(view)});
+    else if (UINavigationBar* bar = as<UINavigationBar>(view))
+        canvas.spot(bounds, {.view = view, .kind = "bar", .label = text([[bar topItem] title])});
 }
 
 void draw(SvgCanvas& canvas, UIView* view) {
@@ -224,6 +298,7 @@ void draw(SvgCanvas& canvas, UIView* view) {
                       clips ? std::optional(bounds) : std::nullopt);
     if (UIColor* color = [view backgroundColor])
         canvas.rectangle(bounds, asSvg(color), [[view layer] cornerRadius]);
+    addSpot(canvas, view);
     drawContent(canvas, view);
     for (UIView* subview in [view subviews])
         draw(canvas, subview);
@@ -232,13 +307,15 @@ void draw(SvgCanvas& canvas, UIView* view) {
 
 } // namespace
 
-std::string screenshotAsSvg() {
+Picture screenPicture() {
     layoutWindows();
     const CGRect screen = [[UIScreen mainScreen] bounds];
     SvgCanvas canvas(screen.size);
     canvas.rectangle(screen, white);
     if (UIWindow* window = [[UIApplication sharedApplication] keyWindow]) draw(canvas, window);
-    return canvas.document();
+    return {canvas.document(), canvas.spots()};
 }
+
+std::string screenshotAsSvg() { return screenPicture().svg; }
 
 } // namespace simulator

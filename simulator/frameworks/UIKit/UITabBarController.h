@@ -28,3 +28,11 @@
 @property (nonatomic, assign) UIViewController* selectedViewController;
 
 @end
+
+// What a finger does to the bar.
+@interface UITabBarController (Input)
+
+// Shows the controller of that item, or what lies at the bottom of its stack when it is shown already.
+- (void)tapItem:(UITabBarItem*)item;
+
+@end

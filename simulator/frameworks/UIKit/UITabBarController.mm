@@ -1,5 +1,7 @@
 #import "UIKit/UITabBarController.h"
 
+#import "UIKit/UINavigationController.h"
+#import "UIKit/internal/Casts.h"
 #import "UIKit/internal/Containers.h"
 
 namespace {
@@ -90,6 +92,21 @@ constexpr CGFloat tabBarHeight = 49;
     const CGSize size = [[self view] bounds].size;
     [_tabBar setFrame:CGRectMake(0, size.height - tabBarHeight, size.width, tabBarHeight)];
     [[_selectedViewController view] setFrame:[self contentFrame]];
+}
+
+@end
+
+@implementation UITabBarController (Input)
+
+- (void)tapItem:(UITabBarItem*)item {
+    for (UIViewController* controller in [self viewControllers]) {
+        if ([controller tabBarItem] != item) continue;
+        if (controller == [self selectedViewController])
+            [simulator::as<UINavigationController>(controller) popToRootViewControllerAnimated:YES];
+        else
+            [self setSelectedViewController:controller];
+        return;
+    }
 }
 
 @end

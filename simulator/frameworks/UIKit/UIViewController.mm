@@ -107,6 +107,9 @@ template <typename Controller> Controller* enclosing(UIViewController* controlle
 
 - (void)viewWillTransitionToSize:(CGSize)size
        withTransitionCoordinator:(id<UIViewControllerTransitionCoordinator>)coordinator {
+    for (UIViewController* child in _childViewControllers)
+        [child viewWillTransitionToSize:size withTransitionCoordinator:coordinator];
+    [_presented viewWillTransitionToSize:size withTransitionCoordinator:coordinator];
 }
 
 - (void)setEditing:(BOOL)editing {

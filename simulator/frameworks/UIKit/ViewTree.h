@@ -3,10 +3,13 @@
 // names it.
 #pragma once
 
+#include "UIKit/model/Spot.h"
+
 #include <nlohmann/json.hpp>
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #ifdef __OBJC__
 @class UIAlertController, UIView, UIViewController;
@@ -24,8 +27,16 @@ namespace simulator {
 nlohmann::json viewTreeAsJson();
 nlohmann::json viewAsJson(UIView* view);
 
-// An SVG document, laid out first, one unit to a point. An empty screen when there is no key window.
+// The screen, laid out first, as an SVG document of one unit to a point, with what a finger can act on, from
+// the back to the front. Empty when there is no key window. To be used before the screen changes.
+struct Picture {
+    std::string svg;
+    std::vector<Spot> spots;
+};
+Picture screenPicture();
 std::string screenshotAsSvg();
+// The spots that nothing else lies on.
+std::vector<Spot> reachableSpots(const Picture& picture);
 
 // The controller on top of everything that is presented; the root controller when nothing is.
 UIViewController* frontController();
@@ -36,6 +47,13 @@ UIAlertController* frontAlert();
 // result is the view that did, nil when nothing takes touches at that place.
 UIView* tap(UIView* view, unsigned taps = 1);
 UIView* longPress(UIView* view, double seconds);
+// The same at a point of the screen, bars, alerts and share sheets included.
+void tapAt(CGPoint point, unsigned taps = 1);
+void longPressAt(CGPoint point, double seconds);
+// Drags what can be scrolled there, so that the content moves on by so many points, as far as there is more.
+void scrollAt(CGPoint point, CGSize distance);
+// The screen has another size or orientation: its window follows.
+void followScreen();
 
 // The button with that title in the bars of the front controller.
 void tapBarButton(std::string_view title);

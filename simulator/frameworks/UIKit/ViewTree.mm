@@ -8,24 +8,53 @@
 #import "UIKit/internal/ViewInternals.h"
 #include "device/strings.h"
 
+#include <algorithm>
+#include <ranges>
 #include <stdexcept>
 
 namespace simulator {
 
 namespace {
 
-UIView* touchAtMiddle(UIView* view, Touch touch) {
+CGPoint middleOf(CGRect rect) { return {CGRectGetMidX(rect), CGRectGetMidY(rect)}; }
+
+UIView* viewAt(CGPoint point) {
+    return [[[[[UIApplication sharedApplication] keyWindow] hitTest:point withEvent:nil] retain] autorelease];
+}
+
+UIView* touchAt(CGPoint point, Touch touch) {
     layoutWindows();
-    UIWindow* window = [view window];
-    if (window == nil) throw std::invalid_argument("the view to touch is not in a window");
-    const CGRect bounds = [view bounds];
-    const CGPoint middle = CGPointMake(CGRectGetMidX(bounds), CGRectGetMidY(bounds));
-    UIView* hit = [window hitTest:[view convertPoint:middle toView:nil] withEvent:nil];
-    touch.hitView = [[hit retain] autorelease];
+    touch.hitView = viewAt(point);
     if (touch.hitView == nil) return nil;
     deliver(touch);
     layoutWindows();
     return touch.hitView;
+}
+
+UIView* touchAtMiddle(UIView* view, Touch touch) {
+    if ([view window] == nil) throw std::invalid_argument("the view to touch is not in a window");
+    layoutWindows();
+    return touchAt([view convertPoint:middleOf([view bounds]) toView:nil], touch);
+}
+
+// What is drawn there without being a view.
+const Spot* drawnSpotAt(CGPoint point, const Picture& picture) {
+    UIView* hit = viewAt(point);
+    for (const Spot& spot : picture.spots | std::views::reverse)
+        if (spot.act && spot.view == hit && CGRectContainsPoint(spot.rect, point)) return &spot;
+    return nullptr;
+}
+
+// From the view outwards, the first that has more to show in that direction.
+UIScrollView* scrollViewAt(UIView* view, CGSize distance) {
+    for (; view != nil; view = [view superview]) {
+        UIScrollView* scrolls = as<UIScrollView>(view);
+        const CGSize content = [scrolls contentSize], size = [scrolls bounds].size;
+        if ((distance.height != 0 && content.height > size.height) ||
+            (distance.width != 0 && content.width > size.width))
+            return scrolls;
+    }
+    return nil;
 }
 
 // All buttons in the bars that can be seen.
@@ -55,6 +84,49 @@ UIAlertController* frontAlert() { return as<UIAlertController>(frontController()
 UIView* tap(UIView* view, unsigned taps) { return touchAtMiddle(view, Touch{.taps = taps}); }
 
 UIView* longPress(UIView* view, double seconds) { return touchAtMiddle(view, Touch{.seconds = seconds}); }
+
+void tapAt(CGPoint point, unsigned taps) {
+    if (const Picture picture = screenPicture(); const Spot* drawn = drawnSpotAt(point, picture)) {
+        drawn->act();
+        return layoutWindows();
+    }
+    touchAt(point, Touch{.taps = taps});
+}
+
+void longPressAt(CGPoint point, double seconds) { touchAt(point, Touch{.seconds = seconds}); }
+
+void scrollAt(CGPoint point, CGSize distance) {
+    layoutWindows();
+    UIScrollView* scrolls = scrollViewAt(viewAt(point), distance);
+    const CGPoint offset = [scrolls contentOffset];
+    const CGSize most = {[scrolls contentSize].width - [scrolls bounds].size.width,
+                         [scrolls contentSize].height - [scrolls bounds].size.height};
+    const auto within = [](CGFloat value, CGFloat last) {
+        return std::clamp<CGFloat>(value, 0, std::max<CGFloat>(last, 0));
+    };
+    [scrolls setContentOffset:{within(offset.x + distance.width, most.width),
+                               within(offset.y + distance.height, most.height)}];
+    layoutWindows();
+}
+
+void followScreen() {
+    const CGRect bounds = [[UIScreen mainScreen] bounds];
+    UIWindow* window = [[UIApplication sharedApplication] keyWindow];
+    [[window rootViewController] viewWillTransitionToSize:bounds.size withTransitionCoordinator:nil];
+    [window setFrame:bounds];
+    for (UIView* view in [window subviews])
+        [view setFrame:bounds];
+    layoutWindows();
+}
+
+std::vector<Spot> reachableSpots(const Picture& picture) {
+    std::vector<Spot> reachable;
+    for (const Spot& spot : picture.spots) {
+        UIView* hit = viewAt(middleOf(spot.rect));
+        if (spot.act ? hit == spot.view : [hit isDescendantOfView:spot.view]) reachable.push_back(spot);
+    }
+    return reachable;
+}
 
 void tapBarButton(std::string_view title) {
     for (UIBarButtonItem* item in barButtonItems()) {

@@ -1,4 +1,5 @@
 // Both kinds of method-hooking framework.
+#include "frameworks/Hooking/HookCalls.h"
 #include "frameworks/Hooking/Hooking.h"
 
 #include "frameworks/ObjectiveC/ObjectiveC.h"
@@ -75,6 +76,21 @@ TEST_P(Hooking, writes_the_slot_before_or_after_as_the_style_says) {
     hook(base, number, five, &reinterpret_cast<IMP*>(method)[2]);
     EXPECT_EQ(method_getImplementation(method),
               reinterpret_cast<IMP>(GetParam().slotWrittenFirst ? five : ten));
+}
+
+TEST_P(Hooking, notes_each_call_where_the_conditions_ask_for_it) {
+    change([](Conditions& conditions) { conditions.hooking.callsNoted = true; });
+    hook(derived, number, oneMore);
+    hook(derived, rect, movedTwice, nullptr); // is not called
+    EXPECT_TRUE(hookCalls().empty());
+    id object = [[derived new] autorelease];
+    numberOf(object);
+    EXPECT_EQ(numberOf(object), 11);
+    EXPECT_EQ(numberOfNew(base), 10);
+    const std::vector<HookCalls> calls = hookCalls();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(calls[0].method, std::string("-[") + class_getName(derived) + " numberForHooking]");
+    EXPECT_EQ(calls[0].count, 2U);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothFrameworks, Hooking,

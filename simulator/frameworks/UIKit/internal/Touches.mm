@@ -35,8 +35,12 @@ UIGestureRecognizer* recognizerOf(const Touch& touch) {
 }
 
 void tapControl(UIControl* control, NSUInteger taps) {
-    for (NSUInteger tap = 0; tap < std::max<NSUInteger>(taps, 1); ++tap)
-        [control sendActionsForControlEvents:UIControlEventTouchUpInside];
+    UISwitch* switches = as<UISwitch>(control);
+    for (NSUInteger tap = 0; tap < std::max<NSUInteger>(taps, 1); ++tap) {
+        [switches setOn:![switches isOn]];
+        [control sendActionsForControlEvents:switches != nil ? UIControlEventValueChanged
+                                                             : UIControlEventTouchUpInside];
+    }
 }
 
 // What a view does with a touch of its own accord.

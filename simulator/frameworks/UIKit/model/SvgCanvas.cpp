@@ -25,6 +25,16 @@ std::string paint(const char* what, SvgColor color) {
     return out.str();
 }
 
+CGRect moved(CGRect rect, CGPoint by) { return {{rect.origin.x + by.x, rect.origin.y + by.y}, rect.size}; }
+
+// Empty, or of negative size, where the two have nothing in common.
+CGRect common(CGRect a, CGRect b) {
+    const CGPoint start = {std::max(a.origin.x, b.origin.x), std::max(a.origin.y, b.origin.y)};
+    return {start,
+            {std::min(CGRectGetMaxX(a), CGRectGetMaxX(b)) - start.x,
+             std::min(CGRectGetMaxY(a), CGRectGetMaxY(b)) - start.y}};
+}
+
 // Control characters have no place in the document, not even escaped.
 std::string escaped(std::string text) {
     std::ranges::replace_if(text, [](char letter) { return static_cast<unsigned char>(letter) < 0x20; }, ' ');
@@ -33,7 +43,7 @@ std::string escaped(std::string text) {
 
 } // namespace
 
-SvgCanvas::SvgCanvas(CGSize size) {
+SvgCanvas::SvgCanvas(CGSize size) : m_groups{{CGPointZero, {CGPointZero, size}}} {
     m_out << "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\""
           << size.width << "\" height=\"" << size.height
           << "\" font-family=\"Helvetica, Arial, sans-serif\">\n";
@@ -49,9 +59,21 @@ void SvgCanvas::beginGroup(CGPoint origin, CGFloat opacity, std::optional<CGRect
     m_out << "<g transform=\"translate(" << origin.x << ',' << origin.y << ")\"";
     if (opacity != 1) m_out << " opacity=\"" << opacity << '"';
     m_out << clipAttribute << ">\n";
+    Group group = m_groups.back();
+    group.origin = {group.origin.x + origin.x, group.origin.y + origin.y};
+    if (clip) group.visible = common(group.visible, moved(*clip, group.origin));
+    m_groups.push_back(group);
 }
 
-void SvgCanvas::endGroup() { m_out << "</g>\n"; }
+void SvgCanvas::endGroup() {
+    m_out << "</g>\n";
+    m_groups.pop_back();
+}
+
+void SvgCanvas::spot(CGRect rect, Spot spot) {
+    spot.rect = common(m_groups.back().visible, moved(rect, m_groups.back().origin));
+    if (spot.rect.size.width > 0 && spot.rect.size.height > 0) m_spots.push_back(std::move(spot));
+}
 
 void SvgCanvas::rectangle(CGRect rect, SvgColor fill, CGFloat cornerRadius, std::optional<SvgColor> border) {
     m_out << "<rect" << attributes(rect) << paint("fill", fill);

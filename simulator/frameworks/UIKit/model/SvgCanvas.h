@@ -1,12 +1,14 @@
-// Writes an SVG document: rectangles, text and pictures within nested groups.
+// Writes an SVG document: rectangles, text and pictures within nested groups; and keeps where on it a finger
+// can act.
 #pragma once
 
-#include "CoreGraphics/CoreGraphics.h"
+#include "UIKit/model/Spot.h"
 
 #include <optional>
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace simulator {
 
@@ -40,13 +42,24 @@ class SvgCanvas {
     void line(CGRect rect, std::string_view text, const SvgText& style);
     // The picture's PNG file in base 64.
     void picture(CGRect rect, std::string_view png);
+    // A finger can act on the rectangle, or on what of it is not cut off.
+    void spot(CGRect rect, Spot spot);
+    const std::vector<Spot>& spots() const { return m_spots; } // what lies on top comes last
 
     // Ends the document.
     std::string document();
 
   private:
+    // Where a group lies in the document, and what of it can be seen there.
+    struct Group {
+        CGPoint origin;
+        CGRect visible;
+    };
+
     std::ostringstream m_out;
     unsigned m_clips = 0;
+    std::vector<Group> m_groups;
+    std::vector<Spot> m_spots;
 };
 
 } // namespace simulator

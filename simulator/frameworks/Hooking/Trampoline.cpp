@@ -1,4 +1,4 @@
-#include "frameworks/Hooking/LateOriginal.h"
+#include "frameworks/Hooking/Trampoline.h"
 
 #include <array>
 #include <cstddef>
@@ -9,14 +9,13 @@
 namespace simulator {
 namespace {
 
-struct Inherited {
-    Class superclass;
-    SEL selector;
-};
-
-constexpr std::size_t capacity = 128;
-std::array<Inherited, capacity> inherited;
+constexpr std::size_t capacity = 256;
 std::size_t used = 0;
+
+std::array<std::function<IMP()>, capacity>& destinations() {
+    static auto& all = *new std::array<std::function<IMP()>, capacity>;
+    return all;
+}
 
 // A parameter for each register that may carry an argument; what lies on the stack stays where it is.
 template <std::size_t> using Whole = long;
@@ -32,8 +31,7 @@ template <std::size_t... whole, std::size_t... floating>
 struct Registers<std::index_sequence<whole...>, std::index_sequence<floating...>> {
     // Jumps on, so that whatever comes back goes straight to the caller.
     template <std::size_t entry> static long passOn(Whole<whole>... a, Floating<floating>... b) {
-        const auto found =
-            class_getMethodImplementation(inherited[entry].superclass, inherited[entry].selector);
+        const auto found = destinations()[entry]();
         [[clang::musttail]] return reinterpret_cast<decltype(&passOn<entry>)>(found)(a..., b...);
     }
 };
@@ -46,12 +44,12 @@ constexpr auto entries = entriesFor(std::make_index_sequence<capacity>());
 
 } // namespace
 
-IMP lateOriginal(Class superclass, SEL selector) {
+IMP trampoline(std::function<IMP()> destination) {
     if (used == capacity) {
-        std::fputs("simulator: too many replacements of inherited methods\n", stderr);
+        std::fputs("simulator: too many methods are passed on\n", stderr);
         std::abort();
     }
-    inherited[used] = {superclass, selector};
+    destinations()[used] = std::move(destination);
     return reinterpret_cast<IMP>(entries[used++]);
 }
 
