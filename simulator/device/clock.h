@@ -12,11 +12,13 @@ class Clock {
     // From here on time stands still until advance(); meant to be called before the first timer.
     void useManualTime();
 
-    // Seconds of manual time.
+    // Seconds since some moment in the past.
     double now() const;
 
     // Runs `action` after `seconds` on the run loop of the calling thread. Any thread that runs a run loop.
     void after(double seconds, std::function<void()> action);
+    // The same on the main thread's run loop. Any thread.
+    void afterOnMainThread(double seconds, std::function<void()> action);
 
     // Moves manual time forward, running what falls due in order of its time. Timers of the calling thread
     // run inside this call, those of other threads on their run loops. Throws std::logic_error on real time.

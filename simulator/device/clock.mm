@@ -6,6 +6,7 @@
 #import <Foundation/Foundation.h>
 
 #include <atomic>
+#include <chrono>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -35,6 +36,11 @@ struct ManualTime {
     std::atomic<bool> isUsed = false;
     double now = 0;
     std::multimap<double, Waiting> waiting; // by deadline; those of one time in the order they were made
+
+    void add(double seconds, NSThread* thread, std::function<void()> action) {
+        const std::lock_guard guard(lock);
+        waiting.emplace(now + seconds, Waiting{owned(thread), std::move(action)});
+    }
 
     std::optional<Waiting> takeDue(double end) {
         const std::lock_guard guard(lock);
@@ -88,6 +94,8 @@ Clock& clock() {
 }
 
 double Clock::now() const {
+    if (!manual().isUsed)
+        return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
     const std::lock_guard guard(manual().lock);
     return manual().now;
 }
@@ -96,15 +104,15 @@ void Clock::useManualTime() { manual().isUsed = true; }
 
 void Clock::after(double seconds, std::function<void()> action) {
     registerThread();
-    if (manual().isUsed) {
-        const std::lock_guard guard(manual().lock);
-        manual().waiting.emplace(manual().now + seconds,
-                                 Waiting{owned([NSThread currentThread]), std::move(action)});
-        return;
-    }
+    if (manual().isUsed) return manual().add(seconds, [NSThread currentThread], std::move(action));
     id event = asObject([action = std::move(action)](id) { action(); });
     scheduleOnRunLoop([NSTimer class], sel_registerName(scheduling), seconds, event, @selector(perform:), nil,
                       NO);
+}
+
+void Clock::afterOnMainThread(double seconds, std::function<void()> action) {
+    if (manual().isUsed) return manual().add(seconds, [NSThread mainThread], std::move(action));
+    performOnMainThread([this, seconds, action = std::move(action)] { after(seconds, action); });
 }
 
 void Clock::advance(double seconds) {

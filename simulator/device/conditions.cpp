@@ -38,7 +38,7 @@ NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Screen, width, height, scale)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Faults, diskFull, missing, unreadable, refuseLibraryChanges)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(HookingStyle, slotWrittenFirst, inheritedResolvedLate, callsNoted)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Conditions, release, coreFoundationVersion, screen, idiom,
-                                                biometricOutcome, hapticEngine, manualClock, faults, hooking)
+                                                biometricOutcome, hapticEngine, albumDeletionTime, manualClock, faults, hooking)
 // clang-format on
 
 namespace {

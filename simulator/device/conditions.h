@@ -53,7 +53,8 @@ struct Conditions {
     Idiom idiom = Idiom::phone;
     BiometricOutcome biometricOutcome = BiometricOutcome::success;
     bool hapticEngine = true;
-    bool manualClock = false; // timers wait for Clock::advance instead of real time
+    double albumDeletionTime = 0; // seconds until the photo library has deleted an album
+    bool manualClock = false;     // timers wait for Clock::advance instead of real time
     Faults faults;
     HookingStyle hooking;
 

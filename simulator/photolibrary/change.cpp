@@ -2,6 +2,7 @@
 
 #include "photolibrary/database.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <random>
@@ -107,6 +108,11 @@ std::string Change::addFolder(std::optional<std::string> title) {
                 .subtype = collectionSubtype::regularFolder,
                 .title = std::move(title)},
                std::nullopt);
+}
+
+bool Change::deletesCollection() const {
+    return std::ranges::any_of(
+        m_requests, [](const Request& request) { return std::holds_alternative<DeleteCollection>(request); });
 }
 
 void Change::carryOut(Connection& connection) const {

@@ -59,6 +59,8 @@ class Change {
                          std::int64_t subtype = collectionSubtype::regularAlbum);
     std::string addFolder(std::optional<std::string> title);
 
+    bool deletesCollection() const;
+
     /// Throws SQLite::Exception, naming what is not there, and leaves it to the caller to take everything
     /// back.
     void carryOut(Connection& connection) const;

@@ -1,5 +1,6 @@
 #include "Dispatch/Dispatch.h"
 
+#include "device/clock.h"
 #include "device/threads.h"
 
 #import <Foundation/Foundation.h>
@@ -110,4 +111,15 @@ void dispatch_sync(dispatch_queue_t queue, dispatch_block_t block) {
         done.set_value();
     });
     done.get_future().wait();
+}
+
+dispatch_time_t dispatch_time(dispatch_time_t base, int64_t nanoseconds) {
+    const auto now = static_cast<dispatch_time_t>(simulator::clock().now() * NSEC_PER_SEC);
+    return (base == DISPATCH_TIME_NOW ? now : base) + static_cast<dispatch_time_t>(nanoseconds);
+}
+
+void dispatch_after(dispatch_time_t when, dispatch_queue_t queue, dispatch_block_t block) {
+    const double seconds = static_cast<double>(when) / NSEC_PER_SEC - simulator::clock().now();
+    simulator::clock().afterOnMainThread(
+        seconds, [queue, item = owning(block)]() mutable { queue->add(std::move(item)); });
 }

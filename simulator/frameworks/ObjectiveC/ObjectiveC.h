@@ -2,6 +2,7 @@
 #pragma once
 
 #include <objc/runtime.h>
+#include <stdint.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -21,6 +22,17 @@ id objc_storeWeak(id* location, id object);
 id objc_loadWeakRetained(id* location); // the caller owns the result
 void objc_destroyWeak(id* location);
 
+// Keeps `value` for as long as `object` lives, or until the key is set again; each policy but 0 (assign)
+// retains.
+void objc_setAssociatedObject(id object, const void* key, id value, uintptr_t policy);
+
 #ifdef __cplusplus
 }
+
+namespace simulator {
+
+// Lets go of what is kept for an object that is about to be deallocated.
+void dropAssociatedObjects(id object);
+
+} // namespace simulator
 #endif

@@ -93,6 +93,7 @@ void releaseObject(id self, SEL) {
                                                 : bool(NSDecrementExtraRefCountWasZero(self));
     if (!last) return;
     waitsForAllOwnersOf(self);
+    simulator::dropAssociatedObjects(self);
     [self dealloc];
 }
 

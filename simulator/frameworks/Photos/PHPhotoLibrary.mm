@@ -16,8 +16,7 @@ dispatch_queue_t changeQueue() {
 }
 
 /// On the change queue; nil when the change was made.
-NSError* perform(void (^changes)(void)) {
-    const simulator::Change change = simulator::changeMadeBy(changes);
+NSError* commit(const simulator::Change& change) {
     const auto failure = simulator::standardExceptionOf([&] {
         if (simulator::currentConditions()->faults.refuseLibraryChanges)
             throw std::runtime_error("the photo library refuses changes");
@@ -41,10 +40,20 @@ NSError* perform(void (^changes)(void)) {
 - (void)performChanges:(void (^)(void))changes
      completionHandler:(void (^)(BOOL success, NSError* error))handler {
     dispatch_async(changeQueue(), ^{
-        @autoreleasepool {
-            NSError* error = perform(changes);
-            if (handler) handler(error == nil ? YES : NO, error);
-        }
+        const simulator::Change change = simulator::changeMadeBy(changes);
+        void (^end)() = ^{
+            @autoreleasepool {
+                NSError* error = commit(change);
+                if (handler) handler(error == nil ? YES : NO, error);
+            }
+        };
+        const double seconds =
+            change.deletesCollection() ? simulator::currentConditions()->albumDeletionTime : 0;
+        if (seconds > 0)
+            dispatch_after(dispatch_time(DISPATCH_TIME_NOW, static_cast<int64_t>(seconds * NSEC_PER_SEC)),
+                           changeQueue(), end);
+        else
+            end();
     });
 }
 
@@ -52,7 +61,7 @@ NSError* perform(void (^changes)(void)) {
     __block NSError* failure = nil;
     dispatch_sync(changeQueue(), ^{
         @autoreleasepool {
-            failure = [perform(changes) retain];
+            failure = [commit(simulator::changeMadeBy(changes)) retain];
         }
     });
     [failure autorelease];

@@ -11,18 +11,25 @@
 - (void)albumListDidFinishPicking:(PUAlbumListViewController*)list;
 @end
 
+/// What is on its way to the album that the user chooses.
+@interface PUSessionInfo : NSObject {
+    NSOrderedSet* _transferredAssets;
+}
+/// PHAsset objects.
+@property (nonatomic, copy) NSOrderedSet* transferredAssets;
+@end
+
 /// The grid of the library's albums: opens them, edits them, or lets the user choose one to put photos into.
 @interface PUAlbumListViewController
     : UIViewController <UICollectionViewDataSource, UICollectionViewDelegate, PUAlbumListCellDelegate> {
-    NSArray* _pickedAssets;
+    PUSessionInfo* _sessionInfo;
     id<PUAlbumPickingDelegate> _pickingDelegate;
     NSArray* _rows;
     UICollectionView* _mainCollectionView;
     UIView* _pickerBannerView;
 }
-/// The photos (PHAsset) to put into the album that the user chooses; nil, unless set before the view loads,
-/// when albums are opened and edited instead.
-@property (nonatomic, copy) NSArray* pickedAssets;
+/// nil, unless set before the view loads, when albums are opened and edited.
+@property (nonatomic, retain) PUSessionInfo* sessionInfo;
 /// Not retained.
 @property (nonatomic, assign) id<PUAlbumPickingDelegate> pickingDelegate;
 @property (nonatomic, readonly) UICollectionView* mainCollectionView;

@@ -72,9 +72,20 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 
 } // namespace
 
+@implementation PUSessionInfo
+
+@synthesize transferredAssets = _transferredAssets;
+
+- (void)dealloc {
+    [_transferredAssets release];
+    [super dealloc];
+}
+
+@end
+
 @implementation PUAlbumListViewController
 
-@synthesize pickedAssets = _pickedAssets, pickingDelegate = _pickingDelegate;
+@synthesize sessionInfo = _sessionInfo, pickingDelegate = _pickingDelegate;
 @synthesize mainCollectionView = _mainCollectionView, _pickerBannerView = _pickerBannerView;
 
 - (instancetype)init {
@@ -86,7 +97,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 - (void)dealloc {
     [_mainCollectionView setDataSource:nil];
     [_mainCollectionView setDelegate:nil];
-    [_pickedAssets release];
+    [_sessionInfo release];
     [_rows release];
     [_mainCollectionView release];
     [_pickerBannerView release];
@@ -107,7 +118,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     [_mainCollectionView setDataSource:self];
     [_mainCollectionView setDelegate:self];
     [[self view] addSubview:_mainCollectionView];
-    if (_pickedAssets != nil) [self _addPickerBanner];
+    if (_sessionInfo != nil) [self _addPickerBanner];
     [self _updateLayout];
 }
 
@@ -117,7 +128,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     [_pickerBannerView setAutoresizingMask:UIViewAutoresizingFlexibleWidth];
     UILabel* label =
         [[[UILabel alloc] initWithFrame:CGRectInset([_pickerBannerView bounds], 16, 16)] autorelease];
-    const NSUInteger count = [_pickedAssets count];
+    const NSUInteger count = [[_sessionInfo transferredAssets] count];
     [label setText:[NSString stringWithFormat:@"Add %lu photo%s to an album.", count, count == 1 ? "" : "s"]];
     [_pickerBannerView addSubview:label];
     [[self view] addSubview:_pickerBannerView];
@@ -154,7 +165,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 // Behind the buttons for a new album and for the search there is nothing.
 - (void)_updateNavigationItem {
     UINavigationItem* item = [self navigationItem];
-    if (_pickedAssets != nil) {
+    if (_sessionInfo != nil) {
         [item setRightBarButtonItem:barButton(@"Cancel", self, @selector(_cancelPicking:))];
         return;
     }
@@ -165,11 +176,11 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (BOOL)showPeople {
-    return _pickedAssets == nil;
+    return _sessionInfo == nil;
 }
 
 - (BOOL)showPlaces {
-    return _pickedAssets == nil;
+    return _sessionInfo == nil;
 }
 
 - (BOOL)alwaysHideTabBar {
@@ -268,7 +279,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 - (void)didSelectItemAtIndexPath:(NSIndexPath*)path {
     PHAssetCollection* album = albumOf([self collectionAtIndexPath:path]);
     if (album == nil) return;
-    if (_pickedAssets != nil)
+    if (_sessionInfo != nil)
         [self _addPickedAssetsToAlbum:album];
     else
         [self _openAlbum:album];
@@ -284,7 +295,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (void)_addPickedAssetsToAlbum:(PHAssetCollection*)album {
-    NSArray* assets = _pickedAssets;
+    NSArray* assets = [[_sessionInfo transferredAssets] array];
     simulator::changeLibrary(
         ^{
             [[PHAssetCollectionChangeRequest changeRequestForAssetCollection:album] addAssets:assets];

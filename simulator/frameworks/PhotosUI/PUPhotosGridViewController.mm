@@ -196,7 +196,9 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
 
 - (void)_addToAlbumButtonPressed:(id)sender {
     PUAlbumListViewController* list = [[[PUAlbumListViewController alloc] init] autorelease];
-    [list setPickedAssets:[self _selectionAsArray]];
+    PUSessionInfo* session = [[[PUSessionInfo alloc] init] autorelease];
+    [session setTransferredAssets:[NSOrderedSet orderedSetWithArray:[self _selectionAsArray]]];
+    [list setSessionInfo:session];
     [list setPickingDelegate:self];
     UIViewController* navigation =
         [[[PUNavigationController alloc] initWithRootViewController:list] autorelease];

@@ -16,14 +16,16 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
 
 @interface UIGestureRecognizer : NSObject {
   @private
-    id _target;
+    id _target; // weak
+    BOOL _hasTarget;
     SEL _action;
     UIGestureRecognizerState _state;
     UIView* _view; // not retained: it retains the recogniser
     id _delegate;
 }
 
-// The target is not retained; the action may take the recogniser or nothing.
+// The target is not retained. Up to iOS 8 it must outlive the recogniser: a gesture for one that has gone
+// ends the process. The action may take the recogniser or nothing.
 - (instancetype)initWithTarget:(id)target action:(SEL)action;
 
 // Possible again as soon as a gesture is over.

@@ -1,7 +1,13 @@
 #import "UIKit/UIGestureRecognizer.h"
 
+#import "ObjectiveC/ObjectiveC.h"
 #import "UIKit/internal/ActionTargets.h"
 #import "UIKit/internal/RecognizerState.h"
+
+#include "device/releases.h"
+
+#include <cstdio>
+#include <cstdlib>
 
 using simulator::Touch;
 
@@ -15,9 +21,25 @@ using simulator::Touch;
 
 - (instancetype)initWithTarget:(id)target action:(SEL)action {
     self = [super init];
-    _target = target;
+    objc_initWeak(&_target, target);
+    _hasTarget = target != nil;
     _action = action;
     return self;
+}
+
+- (void)dealloc {
+    objc_destroyWeak(&_target);
+    [super dealloc];
+}
+
+// nil for a target that has gone.
+- (id)_livingTarget {
+    id target = [objc_loadWeakRetained(&_target) autorelease];
+    if (target == nil && _hasTarget && simulator::currentRelease() < simulator::Release::ios9_3) {
+        std::fprintf(stderr, "*** -[%s]: message sent to a deallocated target\n", sel_getName(_action));
+        std::abort();
+    }
+    return target;
 }
 
 - (BOOL)recognizes:(const Touch&)touch {
@@ -34,7 +56,7 @@ using simulator::Touch;
 - (void)goThrough:(std::initializer_list<UIGestureRecognizerState>)states {
     for (const UIGestureRecognizerState state : states) {
         _state = state;
-        simulator::sendAction(_target, _action, self);
+        simulator::sendAction([self _livingTarget], _action, self);
     }
     _state = UIGestureRecognizerStatePossible;
 }
