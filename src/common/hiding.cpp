@@ -15,11 +15,11 @@ void apply(Photos state, NSArray assets, Block completion) {
     helper->applyHiddenState(state == Photos::hidden, completion);
 }
 
-Owner<NSMutableArray> arrayOf(NSObject selection) {
-    Owner<NSMutableArray> elements = make<NSMutableArray>();
+Owner<NSMutableArray> photosIn(NSObject selection) {
+    Owner<NSMutableArray> photos = make<NSMutableArray>();
     for (NSObject element : each<NSObject>(selection))
-        elements->addObject(element);
-    return elements;
+        photos->addObject(ifKindOf<PHAsset>(element));
+    return photos;
 }
 
 } // namespace rollkeeper

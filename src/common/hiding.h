@@ -14,7 +14,7 @@ bool canHideAssets();
 // there and may be nil. Nil assets change nothing; failures are not reported.
 void apply(Photos state, NSArray assets, Block completion);
 
-// The elements of a selection, which may be any container and may change later, as an array of our own.
-Owner<NSMutableArray> arrayOf(NSObject selection);
+// The photos of a selection, which may be any container and may change later, as an array of our own.
+Owner<NSMutableArray> photosIn(NSObject selection);
 
 } // namespace rollkeeper

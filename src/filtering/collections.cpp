@@ -79,7 +79,7 @@ void CollectionFilter::visitAlbum(PHAssetCollection album) {
     if (!isPhotos_) swapRegularAlbumsForCopies();
     readLockedTitles();
     if (!album.respondsTo<"title">()) return;
-    const auto title = ifKindOf<NSString>(album.title());
+    const auto title = album.title();
     const bool isLockedAway = settings::hideLockedFromApps && !isPhotos_ && isLocked(title);
     if (isLockedAway || settings::isAlbumSwitchedOff(title)) remove(album);
 }

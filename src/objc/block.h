@@ -67,4 +67,12 @@ template <typename Function, typename... Kept> void onMainQueue(Function functio
     dispatch_async(&_dispatch_main_q, block<void()>(function, std::move(kept)...).get().pointer);
 }
 
+// The same after `seconds`.
+template <typename Function, typename... Kept>
+void onMainQueueAfter(double seconds, Function function, Kept... kept) {
+    constexpr double nanosecondsPerSecond = 1e9;
+    dispatch_after(dispatch_time(0, static_cast<std::int64_t>(seconds * nanosecondsPerSecond)),
+                   &_dispatch_main_q, block<void()>(function, std::move(kept)...).get().pointer);
+}
+
 } // namespace rollkeeper

@@ -70,6 +70,13 @@ template <ObjectHandle Wrapper> Owner<Wrapper> make() {
 
 template <typename Handle> Owner<Handle> share(Handle handle) { return Owner<Handle>::sharing(handle); }
 
+// `kept` lives at least as long as `keeper`, which keeps one object in this way.
+inline void keepAlive(Object kept, Object keeper) {
+    static constinit char key = 0;
+    constexpr std::uintptr_t retain = 1; // OBJC_ASSOCIATION_RETAIN_NONATOMIC
+    objc_setAssociatedObject(keeper.pointer, &key, kept.pointer, retain);
+}
+
 // For a method's result: alive until the caller's autorelease pool ends.
 template <ObjectHandle Handle> Handle autoreleased(Owner<Handle> owner) {
     return cast<Handle>(owner.leak().autorelease());

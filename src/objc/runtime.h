@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 struct objc_object;
 struct objc_class;
@@ -45,11 +46,18 @@ void objc_autoreleasePoolPop(void* pool);
 rollkeeper::id objc_storeWeak(rollkeeper::id* location, rollkeeper::id object);
 rollkeeper::id objc_loadWeakRetained(rollkeeper::id* location);
 
+// Under the address `key`, and let go of with `object`. `policy`: OBJC_ASSOCIATION_...
+void objc_setAssociatedObject(rollkeeper::id object, const void* key, rollkeeper::id value,
+                              std::uintptr_t policy);
+
 void* _Block_copy(const void* block);
 void _Block_release(const void* block);
 
 extern ::dispatch_queue_s _dispatch_main_q;
 void dispatch_async(::dispatch_queue_s* queue, void* block);
+// A time `nanoseconds` after `base`, which is 0 for now.
+std::uint64_t dispatch_time(std::uint64_t base, std::int64_t nanoseconds);
+void dispatch_after(std::uint64_t when, ::dispatch_queue_s* queue, void* block);
 
 #ifdef __APPLE__
 void objc_msgSend();

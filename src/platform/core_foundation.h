@@ -22,6 +22,7 @@ void CFNotificationCenterPostNotification(__CFNotificationCenter* center, rollke
 namespace rollkeeper::coreFoundationVersion {
 
 // Values of kCFCoreFoundationVersionNumber at which behaviour changes.
+inline constexpr double ios9 = 1240.10;           // kCFCoreFoundationVersionNumber_iOS_9_0
 inline constexpr double ios10 = 1300.0;           // any number between iOS 9 (1280.30) and 10 (1348.00)
 inline constexpr double above10_2Anchor = 1348.0; // exceeded by 10.2 already
 inline constexpr double above10_2 = 1349.0;       // exceeded from 10.3 on

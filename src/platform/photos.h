@@ -83,7 +83,9 @@ struct PHAsset : PHObject {
 struct PHCollection : PHObject {
     static constexpr FixedString className = "PHCollection";
 
-    NSString localizedTitle() const { return send<PHCollection, "localizedTitle", NSString>(*this); }
+    NSString localizedTitle() const {
+        return ifKindOf<NSString>(send<PHCollection, "localizedTitle", NSString>(*this));
+    }
 };
 
 struct PHAssetCollection : PHCollection {
@@ -107,7 +109,7 @@ struct PHAssetCollection : PHCollection {
             assets, title);
     }
 
-    NSString title() const { return send<PHAssetCollection, "title", NSString>(*this); }
+    NSString title() const { return ifKindOf<NSString>(send<PHAssetCollection, "title", NSString>(*this)); }
     bool isTrashBin() const { return send<PHAssetCollection, "isTrashBin", bool>(*this); }
     PHAssetCollectionType assetCollectionType() const {
         return send<PHAssetCollection, "assetCollectionType", PHAssetCollectionType>(*this);

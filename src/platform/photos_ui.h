@@ -24,7 +24,9 @@ struct PUAssetHidingHelper : NSObject {
 struct PUAlbumListCellContentView : UIView {
     static constexpr FixedString className = "PUAlbumListCellContentView";
 
-    NSString title() const { return send<PUAlbumListCellContentView, "title", NSString>(*this); }
+    NSString title() const {
+        return ifKindOf<NSString>(send<PUAlbumListCellContentView, "title", NSString>(*this));
+    }
     void setSubtitle(NSString text) const {
         send<PUAlbumListCellContentView, "setSubtitle:", void>(*this, text);
     }
@@ -66,11 +68,23 @@ inline PUAlbumListCellContentView contentViewOf(UIView cell) {
     return cast<PUAlbumListCell>(cell).albumListCellContentView();
 }
 
+// What is on its way to an album while the album list is used to pick one. iOS 8 to 12.
+struct PUSessionInfo : NSObject {
+    static constexpr FixedString className = "PUSessionInfo";
+
+    // An ordered set of assets, nil before anything was chosen.
+    NSObject transferredAssets() const { return send<PUSessionInfo, "transferredAssets", NSObject>(*this); }
+};
+
 struct PUAlbumListViewController : UIViewController {
     static constexpr FixedString className = "PUAlbumListViewController";
 
     UIView pickerBannerView() const {
         return send<PUAlbumListViewController, "_pickerBannerView", UIView>(*this);
+    }
+    // Nil outside picking.
+    PUSessionInfo sessionInfo() const {
+        return send<PUAlbumListViewController, "sessionInfo", PUSessionInfo>(*this);
     }
     void reloadContentView() const { send<PUAlbumListViewController, "reloadContentView", void>(*this); }
     // Up to iOS 10.2.
@@ -134,7 +148,9 @@ struct PUPhotosAlbumViewController : PUPhotosGridViewController {
 struct PUImageTileViewController : NSObject {
     static constexpr FixedString className = "PUImageTileViewController";
 
-    PHAsset asset() const { return send<PUImageTileViewController, "asset", PHAsset>(*this); }
+    PHAsset asset() const {
+        return ifKindOf<PHAsset>(send<PUImageTileViewController, "asset", PHAsset>(*this));
+    }
 };
 
 struct PUOneUpViewController : UIViewController {
@@ -147,7 +163,7 @@ struct PUOneUpViewController : UIViewController {
 
 struct PUAssetReference : NSObject {
     static constexpr FixedString className = "PUAssetReference";
-    PHAsset asset() const { return send<PUAssetReference, "asset", PHAsset>(*this); }
+    PHAsset asset() const { return ifKindOf<PHAsset>(send<PUAssetReference, "asset", PHAsset>(*this)); }
 };
 
 struct PUBrowsingViewModel : NSObject {

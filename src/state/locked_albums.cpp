@@ -8,6 +8,12 @@ namespace rollkeeper::lockedAlbums {
 
 namespace {
 constinit ReplacedGlobal<NSMutableArray> lockedAlbumTitles;
+
+// A sandbox that hides the list hides the folders around it as well.
+bool canBeSeen() {
+    const NSFileManager files = NSFileManager::defaultManager();
+    return files.fileExistsAtPath(path::stateFolder()) || files.fileExistsAtPath(path::parentOfStateFolder());
+}
 } // namespace
 
 Owner<NSMutableArray> reread() {
@@ -27,6 +33,10 @@ Owner<NSMutableArray> rereadOrEmpty() {
 bool inMemoryContains(NSString title) { return title && lockedAlbumTitles.get()->containsObject(title); }
 
 void save(Owner<NSMutableArray> titles) {
+    if (!canBeSeen()) {
+        reread();
+        return;
+    }
     lockedAlbumTitles.replace(titles);
     saveArray(titles.get(), path::lockedAlbums());
 }

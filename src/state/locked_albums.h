@@ -17,7 +17,8 @@ Owner<NSMutableArray> rereadOrEmpty();
 // Whether the copy in memory holds the title. Main thread.
 bool inMemoryContains(NSString title);
 
-// Makes the list the copy in memory and has it written to the file. Without a list nothing is written.
+// Makes the list the copy in memory and has it written to the file. Without a list nothing is written. Does
+// nothing where the process may not see the file: what it could not read it would replace.
 void save(Owner<NSMutableArray> titles);
 
 } // namespace rollkeeper::lockedAlbums

@@ -11,6 +11,9 @@ inline NSString preferences() { return "/var/mobile/Library/Preferences/com.nrv.
 // system.
 inline NSString stateFolderFromRoot() { return "var/mobile/Library/rollkeeper/"_ns; }
 
+inline NSString stateFolder() { return "/var/mobile/Library/rollkeeper"_ns; }
+inline NSString parentOfStateFolder() { return "/var/mobile/Library"_ns; }
+
 // The same file by two names, since "/var" is a link: Camera processes read the one and SpringBoard is sent
 // the other. Both are kept exactly.
 inline NSString cameraAlbum() { return "/var/mobile/Library/rollkeeper/album.tct"_ns; }

@@ -13,8 +13,10 @@ namespace {
 // The action that an unlock interrupts. Not the album list's purposes: the numbers mean other actions.
 enum class CellUnlockPurpose : int { RemoveLock = 0, MoveAlbum = 1 };
 
+// On iOS 12 a cell may stand on a screen that is no album list.
 void refreshAlbumList(PUAlbumListCellContentView cell) {
-    cast<PUAlbumListViewController>(cell.viewControllerForAncestor()).reloadContentView();
+    const UIViewController list = cell.viewControllerForAncestor();
+    if (list.respondsTo<"reloadContentView">()) cast<PUAlbumListViewController>(list).reloadContentView();
 }
 
 } // namespace
@@ -41,6 +43,7 @@ void lockAlbum(PUAlbumListCellContentView self, SEL) {
     const NSString title = self.title();
     hapticTick();
     if (!title || !titles->containsObject(title)) {
+        if (title.length() == 0) return;
         titles->addObject(title);
     } else if (unlockGranted) {
         unlockGranted = false;

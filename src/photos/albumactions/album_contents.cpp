@@ -14,7 +14,8 @@ constinit WeakGlobal<NSObject> currentAlbumLayout;
 
 Owner<NSMutableArray> assetsInFewerAlbumsThan(NSUInteger limit, NSObject selection) {
     Owner<NSMutableArray> found = make<NSMutableArray>();
-    for (PHAsset asset : each<PHAsset>(selection))
+    const Owner<NSMutableArray> photos = photosIn(selection);
+    for (PHAsset asset : each<PHAsset>(photos))
         if (countOfAlbumsHolding(asset) < limit) found->addObject(asset);
     return found;
 }

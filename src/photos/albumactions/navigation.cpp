@@ -21,7 +21,9 @@ void addSyncButton(PUNavigationController navigation, UIViewController screen, U
     const NSString title = ifKindOf<PUAlbumListViewController>(screen) ? "Reset"_ns : "Move"_ns;
     const auto button =
         UIBarButtonItem::withTitle(title, UIBarButtonItemStyle::plain, navigation, selector<"syncAlbums">());
-    const Owner<NSMutableArray> extended = arrayOf(items);
+    const Owner<NSMutableArray> extended = make<NSMutableArray>();
+    for (NSObject present : each<NSObject>(items))
+        extended->addObject(present);
     extended->addObject(button.get());
     item.setLeftBarButtonItems(extended.get());
 }

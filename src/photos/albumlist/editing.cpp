@@ -18,15 +18,33 @@ Owner<NSMutableArray> orphansOf(NSString title) {
     return orphans;
 }
 
-// An album that still exists was not deleted after all: nothing of it may come back.
-void dropCancelledDelete() {
-    if (albumWithTitle(pendingDeleteAlbumTitle.get())) pendingDeleteOrphanAssets.clear();
-    pendingDeleteAlbumTitle.clear();
-}
+constexpr double deleteReachesLibrary = 1.0; // seconds, as a rule
 
-void showOrphans() {
+// Returns the photos of the carried delete once its album has gone; until then nothing of it may come back.
+// False while the album is still there.
+bool completeDelete() {
+    if (albumWithTitle(pendingDeleteAlbumTitle.get())) return false;
+    const Owner<NSString> title = pendingDeleteAlbumTitle.take();
     const Owner<NSMutableArray> orphans = pendingDeleteOrphanAssets.take();
     if (orphans->count() > 0) apply(Photos::shown, orphans.get(), Block());
+    return true;
+}
+
+void dropDelete() {
+    pendingDeleteAlbumTitle.clear();
+    pendingDeleteOrphanAssets.clear();
+}
+
+// The library may take longer to delete an album than a person to end editing, so an album that is still
+// there gets one more look shortly after and one at the next end of editing. If it is there even then, the
+// delete was cancelled.
+void followDeleteAfterEditing() {
+    if (completeDelete()) return;
+    if (pendingDeleteOutlivedEditing) return dropDelete();
+    pendingDeleteOutlivedEditing = true;
+    onMainQueueAfter(deleteReachesLibrary, [] {
+        if (pendingDeleteOutlivedEditing) completeDelete();
+    });
 }
 
 } // namespace
@@ -51,14 +69,15 @@ void performDeleteAction(PUAlbumListViewController self, SEL command, PUAlbumLis
     original<performDeleteAction>(self, command, contentView, sender);
     pendingDeleteAlbumTitle.set(title);
     pendingDeleteOrphanAssets.set(orphansOf(title));
+    pendingDeleteOutlivedEditing = false;
 }
 
 void setEditing(PUAlbumListViewController self, SEL command, bool editing, bool animated) {
     original<setEditing>(self, command, editing, animated);
     albumListEditing = editing;
-    if (!editing) self.reloadContentView();
-    dropCancelledDelete();
-    if (!editing) showOrphans();
+    if (editing) return;
+    self.reloadContentView();
+    followDeleteAfterEditing();
 }
 
 } // namespace rollkeeper::albumList

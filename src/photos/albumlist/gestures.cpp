@@ -10,8 +10,8 @@ void handleHiddenPress(PUAlbumListViewController self, SEL, UIGestureRecognizer 
     if (recognizer.state() == UIGestureRecognizerState::began) self.reloadContentView();
 }
 
-// Locks or unlocks the album of the pressed cell. A recogniser that is replayed after authorisation shows
-// "possible".
+// Locks or unlocks the album of the pressed cell; a cell without a title stands for none. A recogniser that
+// is replayed after authorisation shows "possible".
 void handleLongPress(PUAlbumListViewController self, SEL, UIGestureRecognizer pressed) {
     const UIGestureRecognizerState state = pressed.state();
     if (state != UIGestureRecognizerState::began && state != UIGestureRecognizerState::possible) return;
@@ -22,6 +22,7 @@ void handleLongPress(PUAlbumListViewController self, SEL, UIGestureRecognizer pr
     const Owner<NSMutableArray> titles = lockedAlbums::rereadOrEmpty();
     const NSString title = contentViewOf(recognizer->view()).title();
     if (!title || !titles->containsObject(title)) {
+        if (title.length() == 0) return;
         titles->addObject(title);
     } else if (unlockGranted) {
         unlockGranted = false;

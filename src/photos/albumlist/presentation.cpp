@@ -6,6 +6,7 @@
 #include "photos/albumlist/hooks.h"
 #include "photos/albumlist/lock_overlay.h"
 #include "photos/albumlist/state.h"
+#include "platform/core_foundation.h"
 #include "settings/settings.h"
 #include "state/locked_albums.h"
 #include "state/paths.h"
@@ -32,10 +33,20 @@ double thumbnailSide(int screenWidth) {
     }
 }
 
-void addLongPress(UIView view, NSObject target, SEL action, NSTimeInterval duration) {
-    const auto recognizer = UILongPressGestureRecognizer::withTarget(target, action);
+Owner<UILongPressGestureRecognizer> addLongPress(UIView view, NSObject target, SEL action,
+                                                 NSTimeInterval duration) {
+    Owner<UILongPressGestureRecognizer> recognizer = UILongPressGestureRecognizer::withTarget(target, action);
     recognizer->setMinimumPressDuration(duration);
     view.addGestureRecognizer(recognizer.get());
+    return recognizer;
+}
+
+// The bar outlives the lists that are pushed below it. Up to iOS 8 a recogniser neither owns its target nor
+// forgets it: there the list lives as long as the recogniser.
+void addReloadPress(PUAlbumListViewController list) {
+    const auto recognizer = addLongPress(list.navigationController().navigationBar(), list,
+                                         selector<"handleHiddenPress:">(), reloadPressDuration);
+    if (kCFCoreFoundationVersionNumber < coreFoundationVersion::ios9) keepAlive(list, recognizer.get());
 }
 
 // The list is written empty where there is none; a file that is there and cannot be read is left alone.
@@ -101,8 +112,7 @@ void viewWillAppear(PUAlbumListViewController self, SEL command, bool animated) 
     readLockedAlbums();
     readLockedAlbumPaths();
     // One more recogniser with each appearance: accepted.
-    addLongPress(self.navigationController().navigationBar(), self, selector<"handleHiddenPress:">(),
-                 reloadPressDuration);
+    addReloadPress(self);
     if (!self.pickerBannerView()) albumListController.set(self);
 }
 
