@@ -16,6 +16,17 @@
 
 @end
 
+@interface ContentTitledByNumber : PUAlbumListCellContentView
+@end
+
+@implementation ContentTitledByNumber
+
+- (NSString*)title {
+    return static_cast<id>(@42);
+}
+
+@end
+
 namespace simulator::test {
 namespace {
 
@@ -150,6 +161,20 @@ TEST_F(AlbumCell, lock_button_locks_without_question) {
 
 constexpr const char* copyBack = "Copy to camera roll";
 constexpr const char* moveOut = "Move out of camera roll";
+
+TEST_F(AlbumCell, on_a_screen_that_is_no_album_list_is_locked_by_its_title) {
+    openAlbumList({}, {"Family"});
+    recordRequests();
+    UIViewController* screen = [[[UIViewController alloc] init] autorelease];
+    showRootViewController(screen);
+    for (Class contentClass in @[ [PUAlbumListCellContentView class], [ContentTitledByNumber class] ]) {
+        PUAlbumListCellContentView* content = [[[contentClass alloc] init] autorelease];
+        [content setTitle:@"Holidays"];
+        [[screen view] addSubview:content];
+        [content lockAlbum];
+    }
+    EXPECT_EQ(takeSavedLists(), (std::vector<json>{{"Family", "Holidays"}}));
+}
 
 TEST_F(AlbumCell, move_sheet_offers_both_directions) {
     openInEditMode();

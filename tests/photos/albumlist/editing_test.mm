@@ -74,12 +74,16 @@ class AlbumDeletion : public PhotosTest {
         openAlbumList(preferences, locked);
         photos::setEditing(true);
     }
-    void deleteAlbum(const std::string& title) {
+    void deleteAlbum(const std::string& title, bool atOnce = true) {
         photos::tapDeleteAlbum(title);
         settle(); // Touch ID
         tapAlertAction("Delete Album");
         settle();
-        EXPECT_FALSE(library().albumTitled(title));
+        EXPECT_NE(library().albumTitled(title).has_value(), atOnce);
+    }
+    void pass(double seconds) {
+        clock().advance(seconds);
+        settle();
     }
     void endEditing(const Numbers& hiddenAfterwards) {
         photos::setEditing(false);
@@ -97,10 +101,14 @@ TEST_F(AlbumDeletion, returns_photos_of_no_other_album_when_editing_ends) {
     endEditing({2, 6});
 }
 
-TEST_F(AlbumDeletion, that_is_cancelled_returns_nothing_ever) {
+TEST_F(AlbumDeletion, that_is_cancelled_returns_nothing) {
+    useManualClock();
     startEditing();
     photos::tapDeleteAlbum("Holidays");
     tapAlertAction("Cancel");
+    endEditing({0, 1, 2, 6});
+    pass(1.1);
+    photos::setEditing(true);
     endEditing({0, 1, 2, 6});
 
     Change deletion;
@@ -108,7 +116,42 @@ TEST_F(AlbumDeletion, that_is_cancelled_returns_nothing_ever) {
     library().apply(deletion);
     photos::setEditing(true);
     endEditing({0, 1, 2, 6}); // a delete is not carried that far
+    pass(5);
+    EXPECT_EQ(hiddenNumbers(), (Numbers{0, 1, 2, 6}));
 }
+
+// Editing ends at once, and a second time three seconds later.
+struct DeletionTime {
+    double seconds;
+    Numbers hiddenAfterOneSecond;
+    Numbers hiddenInTheEnd;
+};
+
+class SlowDeletion : public AlbumDeletion, public testing::WithParamInterface<DeletionTime> {};
+
+TEST_P(SlowDeletion, returns_photos_once_the_album_has_gone) {
+    change([](Conditions& conditions) { conditions.albumDeletionTime = GetParam().seconds; });
+    useManualClock();
+    startEditing();
+    deleteAlbum("Holidays", false);
+    endEditing({0, 1, 2, 6});
+    pass(0.9);
+    EXPECT_EQ(hiddenNumbers(), (Numbers{0, 1, 2, 6}));
+    pass(0.2);
+    EXPECT_EQ(hiddenNumbers(), GetParam().hiddenAfterOneSecond);
+    pass(1.8);
+    photos::setEditing(true);
+    settle();
+    pass(0.1);
+    endEditing(GetParam().hiddenInTheEnd);
+    pass(5);
+    EXPECT_EQ(hiddenNumbers(), GetParam().hiddenInTheEnd);
+}
+
+INSTANTIATE_TEST_SUITE_P(Libraries, SlowDeletion,
+                         testing::Values(DeletionTime{0.5, {2, 6}, {2, 6}},     // before the second look
+                                         DeletionTime{2, {0, 1, 2, 6}, {2, 6}}, // before the last look
+                                         DeletionTime{4, {0, 1, 2, 6}, {0, 1, 2, 6}})); // taken for cancelled
 
 TEST_F(AlbumDeletion, of_a_second_album_forgets_the_first_and_happens_once) {
     startEditing();

@@ -3,6 +3,9 @@
 
 #include "device/clock.h"
 
+#import "ObjectiveC/ObjectiveC.h"
+#import "PhotosUI/PUNavigationController.h"
+
 // A press whose state a test chooses.
 @interface FakePress : UILongPressGestureRecognizer {
   @public
@@ -90,6 +93,42 @@ TEST_F(AlbumListGestures, press_starts_a_missing_list_and_keeps_what_is_no_title
     EXPECT_EQ(takeSavedLists(), std::vector<json>({{1, {{"a", "b"}}, "Family", "Holidays"}}));
 }
 
+// A sandbox hides files and folders alike; what cannot be read must not be replaced.
+TEST_F(AlbumListGestures, no_list_is_sent_where_it_cannot_be_seen_or_the_cell_has_no_title) {
+    const std::string hiddenParent = "/var/mobile/Library";
+    const struct {
+        const char* name;
+        std::vector<std::string> refused;
+        const char* list; // on the disk, if any
+        NSString* title;
+        std::vector<json> sent;
+    } cases[] = {
+        {"sandbox", {hiddenParent}, "(Family)", @"Holidays", {}},
+        {"no folder", {file::stateFolder}, "(Family)", @"Holidays", {{"Holidays"}}},
+        {"no file", {file::lockedAlbums}, "(Family)", @"Holidays", {{"Holidays"}}},
+        {"damaged", {}, "{{{", @"Holidays", {{"Holidays"}}},
+        {"no title", {}, "{{{", nil, {}},
+    };
+    openList({"Family"});
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        change([](Conditions& conditions) { conditions.faults.missing.clear(); });
+        device().writeFile(file::lockedAlbums, each.list);
+        change([&](Conditions& conditions) { conditions.faults.missing = each.refused; });
+        [contentView("Holidays") setTitle:each.title];
+        press();
+        EXPECT_EQ(takeSavedLists(), each.sent) << "long press";
+        [contentView("Holidays") setTitle:each.title];
+        [contentView("Holidays") lockAlbum];
+        const bool sendsWithoutList = each.title != nil && each.refused != std::vector{hiddenParent};
+        EXPECT_EQ(takeSavedLists(), std::vector<json>(sendsWithoutList ? 1 : 0)) << "lock button";
+        [photos::albumList() viewWillAppear:NO];
+        const bool startsList = each.sent.size() == 1 && !each.refused.empty();
+        EXPECT_EQ(takeSavedLists(), std::vector<json>(startsList ? 1 : 0, json::array())) << "appearance";
+        reload();
+    }
+}
+
 TEST_F(AlbumListGestures, a_device_without_haptic_engine_locks_all_the_same) {
     change([](Conditions& conditions) {
         conditions.hapticEngine = false;
@@ -125,6 +164,39 @@ TEST_F(AlbumListGestures, press_on_the_bar_reloads_when_it_begins) {
     longPress([[photos::albumList() navigationController] navigationBar], 1.1);
     EXPECT_TRUE(lists("New"));
 }
+
+// Below a list that was pushed and left again, and may be gone.
+class BarOfALeftList : public PhotosTest, public testing::WithParamInterface<Release> {};
+
+TEST_P(BarOfALeftList, may_be_pressed) {
+    change([](Conditions& conditions) { conditions.release = GetParam(); });
+    start(host::photos);
+    id left = nil;
+    @autoreleasepool {
+        UIViewController* root = [[[UIViewController alloc] init] autorelease];
+        PUNavigationController* navigation =
+            [[[PUNavigationController alloc] initWithRootViewController:root] autorelease];
+        showRootViewController(navigation);
+        @autoreleasepool {
+            PUAlbumListViewController* list = [[[PUAlbumListViewController alloc] init] autorelease];
+            objc_initWeak(&left, list);
+            [navigation pushViewController:list animated:NO];
+            layOutScreen();
+            [navigation popViewControllerAnimated:NO];
+            layOutScreen();
+        }
+        // Only where recognisers neither own their targets nor forget them the list is kept, as long as they
+        // are.
+        EXPECT_EQ([objc_loadWeakRetained(&left) autorelease] != nil, GetParam() == Release::ios8_4);
+        longPress([navigation navigationBar], 1.1);
+        showRootViewController([[[UIViewController alloc] init] autorelease]);
+    }
+    EXPECT_TRUE([objc_loadWeakRetained(&left) autorelease] == nil);
+    objc_destroyWeak(&left);
+}
+
+INSTANTIATE_TEST_SUITE_P(Releases, BarOfALeftList,
+                         testing::Values(Release::ios8_4, Release::ios9_3, Release::ios12_4));
 
 } // namespace
 } // namespace simulator::test

@@ -3,7 +3,7 @@
 #include "support/hiding_log.h"
 #include "support/photos_fixture.h"
 
-// A screen that shows what no tile was made for.
+// Screens that show what no tile was made for, or what is no photo.
 @interface OneUpWithOtherTile : PUOneUpViewController
 @end
 
@@ -11,6 +11,17 @@
 
 - (id)_currentContentTileController {
     return @"no tile";
+}
+
+@end
+
+@interface OneUpWithTileOfNoPhoto : PUOneUpViewController
+@end
+
+@implementation OneUpWithTileOfNoPhoto
+
+- (id)_currentContentTileController {
+    return [[[PUImageTileViewController alloc] initWithAsset:static_cast<id>(@"no photo")] autorelease];
 }
 
 @end
@@ -106,8 +117,10 @@ TEST_F(PickedPhotos, of_controllers_that_have_gone_are_not_touched) {
             @autoreleasepool {
                 showOneUp([PUOneUpViewController class], 6);
                 EXPECT_EQ(logOfMove(list), Texts{"hide 6"});
-                showOneUp([OneUpWithOtherTile class], 6);
-                EXPECT_EQ(logOfMove(list), Texts{"hide nothing"});
+                for (Class other in @[ [OneUpWithOtherTile class], [OneUpWithTileOfNoPhoto class] ]) {
+                    showOneUp(other, 6);
+                    EXPECT_EQ(logOfMove(list), Texts{"hide nothing"});
+                }
             }
             EXPECT_EQ(logOfMove(list), Texts{"hide nothing"});
             pick(album, 4);
@@ -122,6 +135,59 @@ TEST_F(PickedPhotos, of_controllers_that_have_gone_are_not_touched) {
         EXPECT_EQ(logOfMove(list), Texts{"hide unset"});
         hideOnly({});
     }
+}
+
+// A person leaves something open in one tab and picks in another. Only what is being picked may be hidden, or
+// leave an album.
+TEST_F(PickedPhotos, are_hidden_whatever_another_tab_has_open) {
+    using photos::openAlbum, photos::openMoments, photos::openPhoto, photos::selectPhotos;
+    const struct {
+        const char* name;
+        void (*leaveOpen)();
+        void (*pick)();
+        Numbers hidden;
+        Numbers leavesInFamily;
+    } cases[] = {
+        {"a photo of an album",
+         [] { openPhoto(openAlbum("Holidays"), 1); },
+         [] { selectPhotos(openMoments(), {9}); },
+         {9},
+         {2, 3, 4, 5}},
+        {"a selection in an album",
+         [] { selectPhotos(openAlbum("Family"), {1, 2}); },
+         [] { selectPhotos(openMoments(), {0, 9}); },
+         {0, 9},
+         {2, 3, 4, 5}},
+        {"one of the photos that are picked",
+         [] { selectPhotos(openAlbum("Family"), {1, 2}); },
+         [] { selectPhotos(openMoments(), {4, 9}); },
+         {4},
+         {2, 3, 5}},
+        {"nothing", [] {}, [] { selectPhotos(openAlbum("Family"), {0}); }, {2}, {3, 5}},
+    };
+    openPhotos(true);
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        each.leaveOpen();
+        each.pick();
+        photos::addSelectionToAlbum();
+        photos::tapAlbum("Pets");
+        tapAlertAction("Move");
+        settle();
+        EXPECT_EQ(hiddenNumbers(), each.hidden);
+        EXPECT_EQ(numbersIn("Family"), each.leavesInFamily);
+        hideOnly({});
+        waitFor([] { return [photos::library() presentedViewController] == nil; });
+    }
+}
+
+TEST_F(PickedPhotos, stay_in_their_album_where_nothing_can_be_hidden) {
+    change([](Conditions& conditions) { conditions.release = Release::ios8_4; });
+    PUAlbumListViewController* list = openAlbumList();
+    photos::selectPhotos(photos::openAlbum("Family"), {1});
+    [list reloadCameraRollWithMove:YES];
+    settle();
+    EXPECT_EQ(numbersIn("Family"), (Numbers{2, 3, 4, 5}));
 }
 
 } // namespace
