@@ -24,7 +24,7 @@ struct ReleaseFacts {
     double coreFoundationVersion;
 };
 
-constexpr std::array<ReleaseFacts, 9> facts = {{
+constexpr std::array<ReleaseFacts, 10> facts = {{
     {"7.1", 701, 847.24},
     {"8.4", 804, 1145.15},
     {"9.3", 903, 1280.30},
@@ -32,6 +32,7 @@ constexpr std::array<ReleaseFacts, 9> facts = {{
     {"10.2", 1002, 1348.22},
     {"10.3", 1003, 1349.56},
     {"11.4", 1104, 1452.23},
+    {"12.0", 1200, 1556.00},
     {"12.4", 1204, 1575.17},
     {"complete", 0, 1349.56},
 }};

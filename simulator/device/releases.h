@@ -11,11 +11,11 @@
 namespace simulator {
 
 // `complete` has every name of the signature table, also those that no release has.
-enum class Release { ios7_1, ios8_4, ios9_3, ios10_1, ios10_2, ios10_3, ios11_4, ios12_4, complete };
+enum class Release { ios7_1, ios8_4, ios9_3, ios10_1, ios10_2, ios10_3, ios11_4, ios12_0, ios12_4, complete };
 
-inline constexpr Release allReleases[] = {Release::ios7_1,  Release::ios8_4,  Release::ios9_3,
-                                          Release::ios10_1, Release::ios10_2, Release::ios10_3,
-                                          Release::ios11_4, Release::ios12_4, Release::complete};
+inline constexpr Release allReleases[] = {
+    Release::ios7_1,  Release::ios8_4,  Release::ios9_3,  Release::ios10_1, Release::ios10_2,
+    Release::ios10_3, Release::ios11_4, Release::ios12_0, Release::ios12_4, Release::complete};
 
 std::string_view releaseName(Release release); // "10.3", "complete"
 std::optional<Release> releaseNamed(std::string_view name);

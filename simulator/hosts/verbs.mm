@@ -64,7 +64,12 @@ CGPoint pointOf(const json& request) {
 }
 
 void touch(const json& request) {
-    if (request.contains("seconds"))
+    const std::string gesture = request.value("gesture", "");
+    if (gesture == "pinch")
+        pinchAt(pointOf(request));
+    else if (gesture == "hardPress")
+        hardPressAt(pointOf(request));
+    else if (request.contains("seconds"))
         longPressAt(pointOf(request), request["seconds"].get<double>());
     else
         tapAt(pointOf(request), request.value("taps", 1U));

@@ -90,7 +90,7 @@ TEST_P(Releases, list_albums_to_a_plain_application) {
     EXPECT_EQ(std::ranges::count(titles, "Recently Deleted"), GetParam() == Release::ios8_4 ? 1 : 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Releases, testing::ValuesIn(allReleases + 1, allReleases + 8));
+INSTANTIATE_TEST_SUITE_P(All, Releases, testing::ValuesIn(allReleases + 1, allReleases + 9));
 
 enum class Hidden { included, excluded, untouched };
 

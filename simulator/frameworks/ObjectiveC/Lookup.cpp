@@ -24,6 +24,7 @@ BOOL class_respondsToSelector(Class cls, SEL selector) {
 
 Method class_getInstanceMethod(Class cls, SEL selector) {
     if (cls == Nil || selector == nullptr || !methodIsPresent(cls, selector)) return nullptr;
+    class_getSuperclass(cls); // links the class to it, which the runtime's own look-up takes for done
     return NEXT_FUNCTION(class_getInstanceMethod)(cls, selector);
 }
 

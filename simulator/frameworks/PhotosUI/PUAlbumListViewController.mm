@@ -1,12 +1,18 @@
 #import "PhotosUI/PUAlbumListViewController.h"
 
-#import "PhotosUI/PUPhotosGrid.h"
+#import "PhotosUI/Albums.h"
+#import "PhotosUI/PUAlbumListCellContentViewHelper.h"
 #import "PhotosUI/ScreenHelpers.h"
+
+#include <objc/runtime.h>
 
 #include <algorithm>
 #include <cmath>
 
+using simulator::albumOf;
 using simulator::barButton;
+using simulator::hasSubtype;
+using simulator::isUserAlbum;
 
 namespace {
 
@@ -30,31 +36,6 @@ CGFloat coverSideForWidth(CGFloat width) {
     return std::floor((width - margin * (columns + 1)) / columns);
 }
 
-// nil for a folder, and for the row of people.
-PHAssetCollection* albumOf(PHCollection* collection) {
-    const bool isAlbum = [collection isKindOfClass:[PHAssetCollection class]];
-    return isAlbum ? static_cast<PHAssetCollection*>(collection) : nil;
-}
-
-bool hasSubtype(PHCollection* collection, PHAssetCollectionSubtype subtype) {
-    return [albumOf(collection) assetCollectionSubtype] == subtype;
-}
-
-bool isUserAlbum(PHCollection* collection) {
-    return hasSubtype(collection, PHAssetCollectionSubtypeAlbumRegular);
-}
-
-NSUInteger photosIn(PHAssetCollection* album) {
-    return [[PHAsset fetchAssetsInAssetCollection:album options:nil] count];
-}
-
-// Stock albums appear once they hold something; the library itself is always there.
-bool isShown(PHCollection* collection) {
-    PHAssetCollection* album = albumOf(collection);
-    return [album assetCollectionType] != PHAssetCollectionTypeSmartAlbum ||
-           hasSubtype(album, PHAssetCollectionSubtypeSmartAlbumUserLibrary) || photosIn(album) > 0;
-}
-
 NSUInteger editCapabilitiesOf(PHCollection* collection) {
     constexpr NSUInteger all =
         PUAlbumEditCapabilitiesDelete | PUAlbumEditCapabilitiesRename | PUAlbumEditCapabilitiesReorder;
@@ -62,12 +43,6 @@ NSUInteger editCapabilitiesOf(PHCollection* collection) {
     const bool staysInPlace = collection == nil || [albumOf(collection) isTrashBin] ||
                               hasSubtype(collection, PHAssetCollectionSubtypeSmartAlbumUserLibrary);
     return staysInPlace ? PUAlbumEditCapabilitiesNone : PUAlbumEditCapabilitiesReorder;
-}
-
-UIImage* coverOf(PHCollection* collection, CGFloat side) {
-    if (albumOf(collection) == nil) return nil;
-    PHFetchResult* key = [PHAsset fetchKeyAssetsInAssetCollection:albumOf(collection) options:nil];
-    return simulator::pictureOf([key firstObject], CGSizeMake(side, side));
 }
 
 } // namespace
@@ -199,7 +174,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     if ([self showPeople]) [rows addObject:[NSNull null]];
     const BOOL places = [self showPlaces];
     for (PHCollection* collection in simulator::rootCollections())
-        if ((places || !hasSubtype(collection, placesSubtype)) && isShown(collection))
+        if ((places || !hasSubtype(collection, placesSubtype)) && simulator::isShown(collection))
             [rows addObject:collection];
     [_rows release];
     _rows = [rows copy];
@@ -226,11 +201,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (NSString*)subtitleForCollection:(PHCollection*)collection {
-    if (collection == nil) return nil;
-    PHAssetCollection* album = albumOf(collection);
-    const NSUInteger count =
-        album != nil ? photosIn(album) : [[static_cast<PHCollectionList*>(collection) collections] count];
-    return [NSString stringWithFormat:@"%lu", count];
+    return collection != nil ? [NSString stringWithFormat:@"%lu", simulator::countIn(collection)] : nil;
 }
 
 - (void)setTitleForCell:(id)cell withCollection:(PHCollection*)collection {
@@ -251,9 +222,18 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
     [content setEditCapabilities:editCapabilitiesOf(collection)];
     [content setEditing:[self isEditing]];
     [self setTitleForCell:cell withCollection:collection];
+    // From iOS 12 on a helper fills it, here and on the Albums screen.
+    if (Class helper = objc_getClass("PUAlbumListCellContentViewHelper")) {
+        [[[[helper alloc] init] autorelease] configureAlbumListCellContentView:content
+                                                                 forCollection:collection
+                                                                         title:[content title]
+                                                                      animated:NO
+                                                                       enabled:YES
+                                                                       editing:[self isEditing]];
+    } else {
+        simulator::showCover(content, collection);
+    }
     [content setSubtitle:[self subtitleForCollection:collection]];
-    PUStackView* stack = [content stackView];
-    [[stack coverView] setImage:coverOf(collection, [stack bounds].size.width)];
     return cell;
 }
 
@@ -286,11 +266,7 @@ UIImage* coverOf(PHCollection* collection, CGFloat side) {
 }
 
 - (void)_openAlbum:(PHAssetCollection*)album {
-    PUPhotosAlbumViewController* contents = [[[PUPhotosAlbumViewController alloc] init] autorelease];
-    [contents setAssetCollection:album
-        fetchResultContainingAssetCollection:nil
-                             filterPredicate:nil
-                        existingFetchResults:nil];
+    UIViewController* contents = simulator::contentsOf(album);
     [[self navigationController] pushViewController:contents animated:YES];
 }
 

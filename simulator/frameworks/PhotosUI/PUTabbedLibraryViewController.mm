@@ -10,7 +10,7 @@ namespace {
 
 // The tabs in their order. A tab appeared with a release, and so did the class that fills it; where the class
 // is missing the tab stays empty.
-constexpr struct {
+constexpr struct Tab {
     PUContentMode mode;
     simulator::Release since;
     const char* title;
@@ -21,6 +21,14 @@ constexpr struct {
     {PUContentModeShared, simulator::Release::ios7_1, "Shared", nullptr},
     {PUContentModeAlbums, simulator::Release::ios7_1, "Albums", "PUAlbumListViewController"},
 };
+
+const char* controllerClassOf(const Tab& tab) {
+    const simulator::Release release = simulator::currentRelease();
+    const bool hasAlbumsScreen =
+        release >= simulator::Release::ios12_0 && release != simulator::Release::complete;
+    const bool isAlbums = tab.mode == PUContentModeAlbums;
+    return isAlbums && hasAlbumsScreen ? "PUAlbumsGadgetViewController" : tab.controllerClass;
+}
 
 UIViewController* makeRootController(const char* className, NSString* title) {
     const bool hasLibrary = objc_getClass("PHPhotoLibrary") != Nil;
@@ -56,12 +64,12 @@ UIViewController* makeRootController(const char* className, NSString* title) {
 - (void)_makeTabs {
     NSArray* excluded = [self excludedContentModes];
     NSMutableArray* controllers = [NSMutableArray array];
-    for (auto tab : tabs) {
+    for (const Tab& tab : tabs) {
         if (tab.since > simulator::currentRelease()) continue;
         if ([excluded containsObject:[NSNumber numberWithInt:tab.mode]]) continue;
         NSString* title = [NSString stringWithUTF8String:tab.title];
         PUNavigationController* navigation = [[[PUNavigationController alloc]
-            initWithRootViewController:makeRootController(tab.controllerClass, title)] autorelease];
+            initWithRootViewController:makeRootController(controllerClassOf(tab), title)] autorelease];
         [navigation setTabBarItem:[[[UITabBarItem alloc] initWithTitle:title image:nil
                                                                    tag:tab.mode] autorelease]];
         [controllers addObject:navigation];

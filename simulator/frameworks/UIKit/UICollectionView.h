@@ -17,7 +17,13 @@ typedef struct UIEdgeInsets {
 @interface UICollectionViewCell : ListCell
 @end
 
-// Places the items in lines. The one layout that there is.
+typedef NS_ENUM(NSInteger, UICollectionViewScrollDirection) {
+    UICollectionViewScrollDirectionVertical = 0,
+    UICollectionViewScrollDirectionHorizontal = 1,
+};
+
+// Places the items in lines, which stand side by side where the collection scrolls horizontally. The one
+// layout that there is.
 @interface UICollectionViewFlowLayout : NSObject {
   @private
     UICollectionView* _collectionView;
@@ -25,6 +31,7 @@ typedef struct UIEdgeInsets {
     CGFloat _minimumLineSpacing;
     CGFloat _minimumInteritemSpacing;
     UIEdgeInsets _sectionInset;
+    UICollectionViewScrollDirection _scrollDirection;
 }
 
 // Set by the collection; not retained: it retains the layout.
@@ -34,6 +41,7 @@ typedef struct UIEdgeInsets {
 @property (nonatomic) CGFloat minimumLineSpacing;
 @property (nonatomic) CGFloat minimumInteritemSpacing;
 @property (nonatomic) UIEdgeInsets sectionInset;
+@property (nonatomic) UICollectionViewScrollDirection scrollDirection;
 - (CGSize)collectionViewContentSize;
 // The frame of an item in the collection's content, in points.
 - (CGRect)frameForItemAtIndexPath:(NSIndexPath*)path;
@@ -68,6 +76,8 @@ typedef struct UIEdgeInsets {
 - (NSInteger)numberOfItemsInSection:(NSInteger)section;
 // nil for an item that is not on the screen.
 - (UICollectionViewCell*)cellForItemAtIndexPath:(NSIndexPath*)path;
+// nil where there is no item on the screen.
+- (NSIndexPath*)indexPathForItemAtPoint:(CGPoint)point;
 - (NSIndexPath*)indexPathForCell:(UICollectionViewCell*)cell;
 
 // What a tap on a cell does.

@@ -62,6 +62,12 @@ NSIndexPath* pathAt(NSInteger place) { return [NSIndexPath indexPathForItem:plac
     return place != NSNotFound ? pathAt(place) : nil;
 }
 
+- (NSIndexPath*)indexPathForItemAtPoint:(CGPoint)point {
+    for (UICollectionViewCell* cell in [self visibleCells])
+        if (CGRectContainsPoint([cell frame], point)) return [self indexPathForCell:cell];
+    return nil;
+}
+
 - (void)layoutSubviews {
     [self loadIfNeeded];
     [self setContentSize:[_collectionViewLayout collectionViewContentSize]];
@@ -69,11 +75,15 @@ NSIndexPath* pathAt(NSInteger place) { return [NSIndexPath indexPathForItem:plac
 }
 
 - (std::map<NSInteger, CGRect>)framesIn:(CGRect)visible {
+    const bool isSideways =
+        [_collectionViewLayout scrollDirection] == UICollectionViewScrollDirectionHorizontal;
+    const auto start = [=](CGRect rect) { return isSideways ? rect.origin.x : rect.origin.y; };
+    const auto end = [=](CGRect rect) { return isSideways ? CGRectGetMaxX(rect) : CGRectGetMaxY(rect); };
     std::map<NSInteger, CGRect> frames;
     for (NSInteger item = 0; item < _itemCount; ++item) {
         const CGRect frame = [_collectionViewLayout frameForItemAtIndexPath:pathAt(item)];
-        if (frame.origin.y >= CGRectGetMaxY(visible)) break; // the items after it lie no higher
-        if (CGRectGetMaxY(frame) > visible.origin.y) frames[item] = frame;
+        if (start(frame) >= end(visible)) break; // the items after it lie no nearer to the beginning
+        if (end(frame) > start(visible)) frames[item] = frame;
     }
     return frames;
 }

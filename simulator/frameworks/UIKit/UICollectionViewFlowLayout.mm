@@ -6,7 +6,8 @@
 @implementation UICollectionViewFlowLayout
 
 @synthesize collectionView = _collectionView, itemSize = _itemSize, minimumLineSpacing = _minimumLineSpacing,
-            minimumInteritemSpacing = _minimumInteritemSpacing, sectionInset = _sectionInset;
+            minimumInteritemSpacing = _minimumInteritemSpacing, sectionInset = _sectionInset,
+            scrollDirection = _scrollDirection;
 
 - (instancetype)init {
     self = [super init];
@@ -21,14 +22,24 @@
     [_collectionView setNeedsLayout];
 }
 
-// The width that items have.
-- (CGFloat)lineWidth {
-    return [_collectionView bounds].size.width - _sectionInset.left - _sectionInset.right;
+- (bool)isSideways {
+    return _scrollDirection == UICollectionViewScrollDirectionHorizontal;
+}
+
+// The room that the items of a line have.
+- (CGFloat)lineLength {
+    const CGSize size = [_collectionView bounds].size;
+    return [self isSideways] ? size.height - _sectionInset.top - _sectionInset.bottom
+                             : size.width - _sectionInset.left - _sectionInset.right;
+}
+
+- (CGFloat)lengthInLine {
+    return [self isSideways] ? _itemSize.height : _itemSize.width;
 }
 
 - (NSInteger)itemsInLine {
-    const CGFloat fitting = std::floor(([self lineWidth] + _minimumInteritemSpacing) /
-                                       (_itemSize.width + _minimumInteritemSpacing));
+    const CGFloat fitting = std::floor(([self lineLength] + _minimumInteritemSpacing) /
+                                       ([self lengthInLine] + _minimumInteritemSpacing));
     return std::max<NSInteger>(static_cast<NSInteger>(fitting), 1);
 }
 
@@ -38,21 +49,27 @@
     const NSInteger fullOrBegunLines = (items + perLine - 1) / perLine;
     const auto lines = static_cast<CGFloat>(fullOrBegunLines);
     const CGFloat spacing = std::max<CGFloat>(lines - 1, 0) * _minimumLineSpacing;
-    return {[_collectionView bounds].size.width,
-            _sectionInset.top + lines * _itemSize.height + spacing + _sectionInset.bottom};
+    const CGSize size = [_collectionView bounds].size;
+    if ([self isSideways])
+        return {_sectionInset.left + lines * _itemSize.width + spacing + _sectionInset.right, size.height};
+    return {size.width, _sectionInset.top + lines * _itemSize.height + spacing + _sectionInset.bottom};
 }
 
 - (CGRect)frameForItemAtIndexPath:(NSIndexPath*)path {
     const NSInteger perLine = [self itemsInLine];
-    const auto column = static_cast<CGFloat>([path item] % perLine);
+    const auto place = static_cast<CGFloat>([path item] % perLine);
     const NSInteger fullLines = [path item] / perLine;
+    const auto line = static_cast<CGFloat>(fullLines);
     // The room that a full line leaves goes between its items.
-    const CGFloat spare = [self lineWidth] - static_cast<CGFloat>(perLine) * _itemSize.width;
+    const CGFloat spare = [self lineLength] - static_cast<CGFloat>(perLine) * [self lengthInLine];
     const CGFloat spacing = perLine > 1 ? spare / static_cast<CGFloat>(perLine - 1) : 0;
-    return CGRectMake(_sectionInset.left + column * (_itemSize.width + spacing),
-                      _sectionInset.top +
-                          static_cast<CGFloat>(fullLines) * (_itemSize.height + _minimumLineSpacing),
-                      _itemSize.width, _itemSize.height);
+    const CGFloat column = [self isSideways] ? line : place;
+    const CGFloat row = [self isSideways] ? place : line;
+    const CGFloat columnSpacing = [self isSideways] ? _minimumLineSpacing : spacing;
+    const CGFloat rowSpacing = [self isSideways] ? spacing : _minimumLineSpacing;
+    return CGRectMake(_sectionInset.left + column * (_itemSize.width + columnSpacing),
+                      _sectionInset.top + row * (_itemSize.height + rowSpacing), _itemSize.width,
+                      _itemSize.height);
 }
 
 @end

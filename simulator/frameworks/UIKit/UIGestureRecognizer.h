@@ -1,4 +1,4 @@
-// Recognisers of taps and long presses on a view, with the states a gesture goes through.
+// Recognisers of taps, long presses and pinches on a view, with the states a gesture goes through.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
@@ -22,6 +22,7 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
     UIGestureRecognizerState _state;
     UIView* _view; // not retained: it retains the recogniser
     id _delegate;
+    CGPoint _location; // in the window
 }
 
 // The target is not retained. Up to iOS 8 it must outlive the recogniser: a gesture for one that has gone
@@ -32,6 +33,8 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
 @property (nonatomic, readonly) UIGestureRecognizerState state;
 @property (nonatomic, readonly, assign) UIView* view;
 @property (nonatomic, assign) id delegate;
+// Of the gesture under way or, afterwards, of the last one.
+- (CGPoint)locationInView:(UIView*)view;
 
 @end
 
@@ -52,4 +55,7 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
 // In seconds; half a second unless set.
 @property (nonatomic) NSTimeInterval minimumPressDuration;
 
+@end
+
+@interface UIPinchGestureRecognizer : UIGestureRecognizer
 @end

@@ -1,6 +1,7 @@
 #import "UIKit/UIGestureRecognizer.h"
 
 #import "ObjectiveC/ObjectiveC.h"
+#import "UIKit/UIView.h"
 #import "UIKit/internal/ActionTargets.h"
 #import "UIKit/internal/RecognizerState.h"
 
@@ -9,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+using simulator::Gesture;
 using simulator::Touch;
 
 @implementation UIGestureRecognizer
@@ -51,6 +53,14 @@ using simulator::Touch;
 }
 
 - (void)perform:(const Touch&)touch {
+}
+
+- (CGPoint)locationInView:(UIView*)view {
+    return [view convertPoint:_location fromView:nil];
+}
+
+- (void)noteLocation:(CGPoint)location {
+    _location = location;
 }
 
 - (void)goThrough:(std::initializer_list<UIGestureRecognizerState>)states {
@@ -99,7 +109,7 @@ using simulator::Touch;
 }
 
 - (BOOL)recognizes:(const Touch&)touch {
-    return touch.taps == 0 && touch.seconds >= _minimumPressDuration;
+    return touch.gesture == Gesture::tapOrPress && touch.taps == 0 && touch.seconds >= _minimumPressDuration;
 }
 
 - (double)rank {
@@ -108,6 +118,19 @@ using simulator::Touch;
 
 - (void)perform:(const Touch&)touch {
     [self goThrough:{UIGestureRecognizerStateBegan, UIGestureRecognizerStateEnded}];
+}
+
+@end
+
+@implementation UIPinchGestureRecognizer
+
+- (BOOL)recognizes:(const Touch&)touch {
+    return touch.gesture == Gesture::pinch;
+}
+
+- (void)perform:(const Touch&)touch {
+    [self goThrough:{UIGestureRecognizerStateBegan, UIGestureRecognizerStateChanged,
+                     UIGestureRecognizerStateEnded}];
 }
 
 @end

@@ -30,4 +30,5 @@
 #import "UIKit/UITableView.h"
 #import "UIKit/UIView.h"
 #import "UIKit/UIViewController.h"
+#import "UIKit/UIViewControllerPreviewing.h"
 #import "UIKit/UIWindow.h"

@@ -47,9 +47,14 @@ UIAlertController* frontAlert();
 // result is the view that did, nil when nothing takes touches at that place.
 UIView* tap(UIView* view, unsigned taps = 1);
 UIView* longPress(UIView* view, double seconds);
+UIView* pinch(UIView* view);
+// As far as it goes: through the preview to what it opens.
+UIView* hardPress(UIView* view);
 // The same at a point of the screen, bars, alerts and share sheets included.
 void tapAt(CGPoint point, unsigned taps = 1);
 void longPressAt(CGPoint point, double seconds);
+void pinchAt(CGPoint point);
+void hardPressAt(CGPoint point);
 // Drags what can be scrolled there, so that the content moves on by so many points, as far as there is more.
 void scrollAt(CGPoint point, CGSize distance);
 // The screen has another size or orientation: its window follows.

@@ -24,6 +24,7 @@ UIView* viewAt(CGPoint point) {
 
 UIView* touchAt(CGPoint point, Touch touch) {
     layoutWindows();
+    touch.location = point;
     touch.hitView = viewAt(point);
     if (touch.hitView == nil) return nil;
     deliver(touch);
@@ -85,6 +86,10 @@ UIView* tap(UIView* view, unsigned taps) { return touchAtMiddle(view, Touch{.tap
 
 UIView* longPress(UIView* view, double seconds) { return touchAtMiddle(view, Touch{.seconds = seconds}); }
 
+UIView* pinch(UIView* view) { return touchAtMiddle(view, Touch{.gesture = Gesture::pinch}); }
+
+UIView* hardPress(UIView* view) { return touchAtMiddle(view, Touch{.gesture = Gesture::hardPress}); }
+
 void tapAt(CGPoint point, unsigned taps) {
     if (const Picture picture = screenPicture(); const Spot* drawn = drawnSpotAt(point, picture)) {
         drawn->act();
@@ -94,6 +99,10 @@ void tapAt(CGPoint point, unsigned taps) {
 }
 
 void longPressAt(CGPoint point, double seconds) { touchAt(point, Touch{.seconds = seconds}); }
+
+void pinchAt(CGPoint point) { touchAt(point, Touch{.gesture = Gesture::pinch}); }
+
+void hardPressAt(CGPoint point) { touchAt(point, Touch{.gesture = Gesture::hardPress}); }
 
 void scrollAt(CGPoint point, CGSize distance) {
     layoutWindows();

@@ -236,9 +236,10 @@ TEST_P(NavigationOnReleases, does_what_the_release_allows) {
     start(host::photos);
     EXPECT_EQ([photos::library() navigationControllerForContentMode:1] == nil, release >= Release::ios9_3);
     UIViewController* root = [navigation() topViewController];
-    [[root navigationItem] setLeftBarButtonItems:nil];
+    UIViewController* list = release > Release::ios7_1 ? photos::openAlbumList() : root;
+    [[list navigationItem] setLeftBarButtonItems:nil];
     [navigation() navigationBar];
-    EXPECT_EQ(titlesOf([[root navigationItem] leftBarButtonItems]),
+    EXPECT_EQ(titlesOf([[list navigationItem] leftBarButtonItems]),
               Texts{release >= Release::ios9_3 ? "Reset" : "Move"});
     [navigation() syncAlbums];
     EXPECT_EQ(alertTitle(), release >= Release::ios9_3 ? "Move Album Photos" : "");

@@ -7,9 +7,14 @@
 
 namespace simulator {
 
-// One finger's doing at one view: so many taps, or a press held for some seconds.
+enum class Gesture { tapOrPress, pinch, hardPress };
+
+// What fingers do at one view: so many taps, or a press held for some seconds; two fingers that move apart;
+// or a press as hard as the screen can feel.
 struct Touch {
     UIView* hitView = nil;
+    CGPoint location = CGPointZero; // in the window
+    Gesture gesture = Gesture::tapOrPress;
     NSUInteger taps = 0; // 0 for a press
     double seconds = 0;
 };
@@ -29,6 +34,7 @@ void deliver(const Touch& touch);
 - (double)rank;
 // Goes through the states of the gesture, telling the target.
 - (void)perform:(const simulator::Touch&)touch;
+- (void)noteLocation:(CGPoint)location;
 - (void)goThrough:(std::initializer_list<UIGestureRecognizerState>)states;
 
 @end

@@ -61,7 +61,11 @@ bool handles(UIView* view, const Touch& touch) {
 void deliver(const Touch& touch) {
     const Retained<UIView*> alive(touch.hitView);
     const Retained<UIGestureRecognizer*> recognizer(recognizerOf(touch));
-    if (recognizer) return [recognizer.get() perform:touch];
+    if (recognizer) {
+        [recognizer.get() noteLocation:touch.location];
+        return [recognizer.get() perform:touch];
+    }
+    if (touch.gesture != Gesture::tapOrPress) return;
     for (UIView* view = touch.hitView; view != nil; view = [view superview])
         if (handles(view, touch)) return;
 }

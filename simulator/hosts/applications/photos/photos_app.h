@@ -29,8 +29,15 @@ PUTabbedLibraryViewController* library();
 /// Taps a tab; a tab that is not there throws.
 void selectTab(PUContentMode mode);
 
-/// The album list at the top of the Albums tab, reloaded and laid out.
+/// The whole library's album list, reloaded and laid out: the first screen of the Albums tab or, from iOS 12
+/// on, what "See All" opens there.
 PUAlbumListViewController* openAlbumList();
+
+/// The first screen of the Albums tab from iOS 12 on, its albums read anew.
+PUAlbumsGadgetViewController* openAlbumsScreen();
+
+/// The first album of that title in the row of the Albums screen, in sight.
+PUAlbumListCell* coverOnAlbumsScreen(const std::string& title);
 
 /// The album list on the screen: a folder's, the one that picks an album, or the whole library's.
 PUAlbumListViewController* albumList();
@@ -44,8 +51,14 @@ NSIndexPath* pathOfAlbum(PUAlbumListViewController* list, const std::string& tit
 /// The cell of the album, after scrolling to it.
 PUAlbumListCell* albumCell(PUAlbumListViewController* list, const std::string& title);
 
-/// Taps the album in the list on the screen.
+/// Taps the album in the list on the screen or, on the Albums screen, in the row or a table.
 void tapAlbum(const std::string& title);
+
+/// Two fingers move apart over the album's cover in the row of the Albums screen.
+void pinchAlbum(const std::string& title);
+
+/// Presses there as hard as it goes.
+void hardPressAlbum(const std::string& title);
 
 /// Opens the album from the top of the Albums tab and gives the screen with its photos.
 PUPhotosAlbumViewController* openAlbum(const std::string& title);
@@ -69,9 +82,9 @@ PUAlbumListViewController* addSelectionToAlbum();
 /// Taps a photo outside selection mode and gives the screen with it.
 PUOneUpViewController* openPhoto(PUPhotosGridViewController* grid, std::size_t place);
 
-/// "albums" lists the albums at the top of the Albums tab; "openAlbum" {"title"}, "tapAlbum" {"title"},
-/// "deleteAlbum" {"title"}, "hasInAlbumCell" and "tapInAlbumCell" {"title", "tag"}, "openMoments", and
-/// "selectPhotos" {"places"} in the grid on the screen.
+/// "albums" lists the whole library's albums; "openAlbum", "tapAlbum", "pinchAlbum", "hardPressAlbum",
+/// "deleteAlbum" {"title"}, "openAlbumsScreen", "hasInCover" {"title", "tag"} on it, "hasInAlbumCell" and
+/// "tapInAlbumCell" {"title", "tag"}, "openMoments", and "selectPhotos" {"places"} in the grid on the screen.
 void addVerbs();
 
 } // namespace simulator::photos

@@ -38,14 +38,29 @@ NSIndexPath* pathAt(std::size_t place) {
     return [NSIndexPath indexPathForItem:static_cast<NSInteger>(place) inSection:0];
 }
 
+void scrollTo(UIScrollView* scrollView, CGRect frame) {
+    CGRect visible = [scrollView bounds];
+    CGPoint offset = visible.origin;
+    if (CGRectGetMinX(frame) < CGRectGetMinX(visible) || CGRectGetMaxX(frame) > CGRectGetMaxX(visible))
+        offset.x = frame.origin.x;
+    if (CGRectGetMinY(frame) < CGRectGetMinY(visible) || CGRectGetMaxY(frame) > CGRectGetMaxY(visible))
+        offset.y = frame.origin.y;
+    if (CGPointEqualToPoint(offset, visible.origin)) return;
+    [scrollView setContentOffset:offset animated:NO];
+    layOutScreen();
+}
+
 void scrollTo(UICollectionView* collection, NSIndexPath* path) {
     layOutScreen();
-    CGRect frame = [[collection collectionViewLayout] frameForItemAtIndexPath:path];
-    CGRect visible = [collection bounds];
-    if (CGRectGetMinY(frame) >= CGRectGetMinY(visible) && CGRectGetMaxY(frame) <= CGRectGetMaxY(visible))
-        return;
-    [collection setContentOffset:CGPointMake(0, frame.origin.y) animated:NO];
-    layOutScreen();
+    scrollTo(collection, [[collection collectionViewLayout] frameForItemAtIndexPath:path]);
+}
+
+// In whatever scrolls around it.
+void scrollTo(UIView* view) {
+    for (UIView* outer = [view superview]; outer != nil; outer = [outer superview])
+        if ([outer isKindOfClass:[UIScrollView class]])
+            scrollTo(static_cast<UIScrollView*>(outer),
+                     {[outer convertPoint:CGPointZero fromView:view], [view bounds].size});
 }
 
 void tapItem(UICollectionView* collection, NSIndexPath* path) {
@@ -54,6 +69,47 @@ void tapItem(UICollectionView* collection, NSIndexPath* path) {
     if (cell == nil) throw std::runtime_error("nothing is shown at place " + std::to_string([path item]));
     if (![tap(cell) isDescendantOfView:cell])
         throw std::runtime_error("something lies over place " + std::to_string([path item]));
+}
+
+PUAlbumsGadgetViewController* albumsScreen() { return onScreen<PUAlbumsGadgetViewController>(); }
+
+// In a table of the Albums screen; nil when there is none.
+UITableViewCell* rowOnAlbumsScreen(const std::string& title) {
+    for (PXNavigationListGadget* list in [albumsScreen() lists])
+        for (UITableViewCell* row in [[list table] visibleCells])
+            if (text([[row textLabel] text]) == title) return row;
+    return nil;
+}
+
+void tapOnAlbumsScreen(const std::string& title) {
+    UIView* row = rowOnAlbumsScreen(title);
+    UIView* touched = row != nil ? row : coverOnAlbumsScreen(title);
+    scrollTo(touched);
+    if (![tap(touched) isDescendantOfView:touched])
+        throw std::runtime_error("something lies over \"" + title + "\"");
+}
+
+void tapSeeAll() {
+    std::vector<UIView*> waiting = {[albumsScreen() view]};
+    while (!waiting.empty()) {
+        UIView* view = waiting.back();
+        waiting.pop_back();
+        const bool isLabel = [view isKindOfClass:[UILabel class]];
+        if (isLabel && [[static_cast<UILabel*>(view) text] isEqualToString:@"See All"]) {
+            scrollTo([view superview]);
+            tap([view superview]);
+            return;
+        }
+        for (UIView* subview in [view subviews])
+            waiting.push_back(subview);
+    }
+    throw std::runtime_error("the Albums screen offers no \"See All\"");
+}
+
+void openAlbumsTab() {
+    selectTab(PUContentModeAlbums);
+    [[library() selectedNavigationController] popToRootViewControllerAnimated:NO];
+    layOutScreen();
 }
 
 } // namespace
@@ -74,12 +130,30 @@ void selectTab(PUContentMode mode) {
 }
 
 PUAlbumListViewController* openAlbumList() {
-    selectTab(PUContentModeAlbums);
-    [[library() selectedNavigationController] popToRootViewControllerAnimated:NO];
+    openAlbumsTab();
+    if ([controllerOnScreen() isKindOfClass:[PUAlbumsGadgetViewController class]]) tapSeeAll();
     PUAlbumListViewController* list = albumList();
     [list reloadContentView];
     layOutScreen();
     return list;
+}
+
+PUAlbumsGadgetViewController* openAlbumsScreen() {
+    openAlbumsTab();
+    [albumsScreen() reload];
+    layOutScreen();
+    return albumsScreen();
+}
+
+PUAlbumListCell* coverOnAlbumsScreen(const std::string& title) {
+    layOutScreen();
+    PUHorizontalAlbumListGadget* row = [albumsScreen() albumRow];
+    const NSUInteger item = [[[row albums] valueForKey:@"localizedTitle"] indexOfObject:string(title)];
+    if (item == NSNotFound) throw std::runtime_error("the row of albums has no \"" + title + "\"");
+    scrollTo([row collectionView], pathAt(item));
+    UICollectionViewCell* cell = [[row collectionView] cellForItemAtIndexPath:pathAt(item)];
+    scrollTo(cell);
+    return static_cast<PUAlbumListCell*>(cell);
 }
 
 PUAlbumListViewController* albumList() { return onScreen<PUAlbumListViewController>(); }
@@ -118,9 +192,15 @@ PUAlbumListCell* albumCell(PUAlbumListViewController* list, const std::string& t
 
 void tapAlbum(const std::string& title) {
     layOutScreen();
+    if ([controllerOnScreen() isKindOfClass:[PUAlbumsGadgetViewController class]])
+        return tapOnAlbumsScreen(title);
     PUAlbumListViewController* list = albumList();
     tapItem([list mainCollectionView], pathOfAlbum(list, title));
 }
+
+void pinchAlbum(const std::string& title) { pinch(coverOnAlbumsScreen(title)); }
+
+void hardPressAlbum(const std::string& title) { hardPress(coverOnAlbumsScreen(title)); }
 
 PUPhotosAlbumViewController* openAlbum(const std::string& title) {
     openAlbumList();
@@ -174,6 +254,13 @@ void addVerbs() {
     registerVerb("albums", [] { return describeAlbums(openAlbumList()); });
     registerVerb("openAlbum", [](const json& request) { openAlbum(request.at("title")); });
     registerVerb("tapAlbum", [](const json& request) { tapAlbum(request.at("title")); });
+    registerVerb("openAlbumsScreen", [] { openAlbumsScreen(); });
+    registerVerb("pinchAlbum", [](const json& request) { pinchAlbum(request.at("title")); });
+    registerVerb("hardPressAlbum", [](const json& request) { hardPressAlbum(request.at("title")); });
+    registerVerb("hasInCover", [](const json& request) -> json {
+        PUAlbumListCell* cover = coverOnAlbumsScreen(request.at("title"));
+        return {{"has", [cover viewWithTag:request.at("tag").get<NSInteger>()] != nil}};
+    });
     registerVerb("deleteAlbum", [](const json& request) { tapDeleteAlbum(request.at("title")); });
     registerVerb("hasInAlbumCell",
                  [=](const json& request) -> json { return {{"has", inAlbumCell(request) != nil}}; });
