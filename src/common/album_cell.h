@@ -17,6 +17,9 @@ inline void setAlbumCellSide(double points) {
     albumCellHeight = albumCellWidth;
 }
 
+// While the album list has Photos fill one of its cells, which it decorates itself afterwards.
+inline constinit bool albumListFillsCell = false;
+
 // The font of a cell's two lines: 15 points until the first cell is laid out.
 inline constinit MainThreadGlobal<UIFont> albumCellFont;
 

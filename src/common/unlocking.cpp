@@ -23,7 +23,7 @@ struct UnlockAsker {
 
 enum class After { nothing, carryOn };
 
-// How the two flows differ. In the album list a right password only closes the alert: such an album opens by
+// How the flows differ. In the album list a right password only closes the alert: such an album opens by
 // Touch ID, or after its cell's lock button has unlocked it.
 struct Policy {
     bool everyErrorAsksForPassword;  // or only the user's wish for the fallback
@@ -44,6 +44,11 @@ constexpr Policy policies[] = {
      .rightPassword = After::carryOn,
      .noPasswordSet = After::carryOn,
      .wrongPasswordMessage = [] { return "Incorrect password."_ns; }},
+    {.everyErrorAsksForPassword = true,
+     .passwordFollowsOnMainQueue = true,
+     .rightPassword = After::carryOn,
+     .noPasswordSet = After::nothing,
+     .wrongPasswordMessage = [] { return "Incorrect password"_ns; }},
 };
 
 const Policy& policyOf(UnlockFlow flow) { return policies[static_cast<std::size_t>(flow)]; }

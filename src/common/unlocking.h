@@ -1,7 +1,7 @@
 // Asking for authorisation before a locked album is opened or changed.
 //
-// Both flows, the album list's and the album cell's, share this mechanism. What differs between them, on
-// purpose, is the table of policies in unlocking.cpp. An authorisation is for one action: the object that
+// All flows, the album list's, the album cell's and the Albums screen's, share this mechanism. What differs
+// between them, on purpose, is the table of policies in unlocking.cpp. An authorisation is for one action: the object that
 // asked receives `unlockAuthorised:` with the purpose that it named, and carries the interrupted action out.
 // Main thread.
 #pragma once
@@ -12,7 +12,7 @@
 
 namespace rollkeeper {
 
-enum class UnlockFlow : std::uint8_t { albumList, albumCell };
+enum class UnlockFlow : std::uint8_t { albumList, albumCell, albumsScreen };
 
 // Set by a successful unlock; the action that is carried out then sees it, skips the lock test and clears it.
 inline constinit bool unlockGranted = false;

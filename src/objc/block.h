@@ -62,6 +62,9 @@ Owner<Block> block(Function function, Kept... kept) {
     return detail::BlockMaker<Signature>::make(function, std::move(kept)...);
 }
 
+// Runs a void() block.
+inline void run(Block block) { (reinterpret_cast<void (^)()>(block.pointer))(); }
+
 // Runs the function on the main queue, after the current work of the main thread. Any thread.
 template <typename Function, typename... Kept> void onMainQueue(Function function, Kept... kept) {
     dispatch_async(&_dispatch_main_q, block<void()>(function, std::move(kept)...).get().pointer);

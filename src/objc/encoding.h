@@ -74,6 +74,9 @@ template <> struct TypeEncoding<CGSize> {
 template <> struct TypeEncoding<CGRect> {
     static constexpr const char* text = "{CGRect={CGPoint=dd}{CGSize=dd}}";
 };
+template <> struct TypeEncoding<CGRect*> {
+    static constexpr const char* text = "^{CGRect={CGPoint=dd}{CGSize=dd}}";
+};
 template <> struct TypeEncoding<NSRange> {
     static constexpr const char* text = "{_NSRange=QQ}";
 };

@@ -8,8 +8,10 @@
 
 namespace rollkeeper {
 
-// An owned global of the main thread.
-template <ObjectHandle Handle> class MainThreadGlobal {
+// An owned global of the main thread: an object or a block.
+template <typename Handle> class MainThreadGlobal {
+    static_assert(ObjectHandle<Handle> || std::is_same_v<Handle, Block>);
+
   public:
     [[nodiscard]] Handle get() const { return handle_; }
     explicit operator bool() const { return static_cast<bool>(handle_); }

@@ -27,5 +27,6 @@ inline constexpr double ios10 = 1300.0;           // any number between iOS 9 (1
 inline constexpr double above10_2Anchor = 1348.0; // exceeded by 10.2 already
 inline constexpr double above10_2 = 1349.0;       // exceeded from 10.3 on
 inline constexpr double ios11 = 1443.0;
+inline constexpr double ios12 = 1556.0;
 
 } // namespace rollkeeper::coreFoundationVersion

@@ -117,6 +117,28 @@ struct PUAlbumListViewController : UIViewController {
     }
 };
 
+// The parts of the Albums screen that stands before the album list from iOS 12 on.
+
+struct PUAlbumsGadgetViewController : UIViewController {
+    static constexpr FixedString className = "PUAlbumsGadgetViewController";
+};
+
+struct PXHorizontalCollectionGadget : UIViewController {
+    static constexpr FixedString className = "PXHorizontalCollectionGadget";
+};
+
+struct PUHorizontalAlbumListGadget : PXHorizontalCollectionGadget {
+    static constexpr FixedString className = "PUHorizontalAlbumListGadget";
+};
+
+struct PXNavigationListGadget : NSObject {
+    static constexpr FixedString className = "PXNavigationListGadget";
+};
+
+struct PUAlbumListCellContentViewHelper : NSObject {
+    static constexpr FixedString className = "PUAlbumListCellContentViewHelper";
+};
+
 struct PUPhotosGridViewController : UIViewController {
     static constexpr FixedString className = "PUPhotosGridViewController";
 

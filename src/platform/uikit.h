@@ -103,7 +103,10 @@ struct CALayer : NSObject {
     void setMasksToBounds(bool masks) const { send<CALayer, "setMasksToBounds:", void>(*this, masks); }
 };
 
-enum class UIViewAutoresizing : NSUInteger { flexibleWidthAndHeight = 2 + 16 };
+enum class UIViewAutoresizing : NSUInteger {
+    flexibleWidthAndHeight = 2 + 16,
+    flexibleMargins = 1 + 4 + 8 + 32,
+};
 enum class UIViewAnimationOptions : NSUInteger { allowUserInteraction = 2 };
 
 struct UIView : NSObject {
@@ -249,6 +252,15 @@ struct UITableViewCell : UIView {
     static constexpr FixedString className = "UITableViewCell";
 
     UILabel textLabel() const { return send<UITableViewCell, "textLabel", UILabel>(*this); }
+};
+
+struct UICollectionView : UIView {
+    static constexpr FixedString className = "UICollectionView";
+
+    // Nil for an item that is not on the screen.
+    UIView cellForItem(NSIndexPath path) const {
+        return send<UICollectionView, "cellForItemAtIndexPath:", UIView>(*this, path);
+    }
 };
 
 struct UITabBar : UIView {

@@ -56,7 +56,7 @@ inline constinit Setting<bool> layoutShowTitle;
 inline constinit Setting<bool> layoutShowSubtitle;
 inline constinit Setting<std::int32_t> albumFontSize{14}; // points
 
-// How a locked album is drawn: see photos/albumlist/lock_overlay.h.
+// How a locked album is drawn: see common/lock_overlay.h.
 inline constinit Setting<std::int32_t> lockedAlbumPreview;
 // How a locked album is opened: see PassOption.
 inline constinit Setting<std::int32_t> passOption;

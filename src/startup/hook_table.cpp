@@ -4,6 +4,7 @@
 #include "filtering/hooks.h"
 #include "photos/albumactions/hooks.h"
 #include "photos/albumlist/hooks.h"
+#include "photos/albumsscreen/hooks.h"
 #include "state/file_writing_service.h"
 
 namespace rollkeeper {
@@ -108,6 +109,22 @@ constexpr HookRow rows[] = {
 
     // Every process from iOS 10 on
     {everywhereFromIos10, "PHAssetCollection", classMethod, "fetchAssetCollectionsWithType:subtype:options:", replacement<"@@:qq@", filtering::fetchAssetCollections>()},
+
+    // Photos from iOS 12 on: the Albums screen
+    {albumsScreen, "PUHorizontalAlbumListGadget", instanceMethod, "collectionView:didSelectItemAtIndexPath:", replacement<"v@:@@", albumsScreen::didSelectItem>()},
+    {albumsScreen, "PUHorizontalAlbumListGadget", instanceMethod, "_canUseStackedAlbumTransitionToNavigationToCollection:", replacement<"B@:@", albumsScreen::canUseStackedTransition>()},
+    {albumsScreen, "PUHorizontalAlbumListGadget", instanceMethod, "navigateToCollection:animated:completion:", replacement<"v@:@B@?", albumsScreen::navigateToCollection<PUHorizontalAlbumListGadget>>()}, // 12.0
+    {albumsScreen, "PUHorizontalAlbumListGadget", instanceMethod, "navigateToAssetCollection:animated:", replacement<"@@:@B", albumsScreen::navigateToAlbum>()}, // 12.1 and, inferred, later
+    {albumsScreen, "PUHorizontalAlbumListGadget", instanceMethod, "requestPassword:", addition<"v@:i", albumsScreen::requestPassword>()},
+    {albumsScreen, "PUHorizontalAlbumListGadget", instanceMethod, "unlockAuthorised:", addition<"v@:i", albumsScreen::unlockAuthorised>()},
+    {albumsScreen, "PUAlbumsGadgetViewController", instanceMethod, "navigateToCollection:animated:completion:", replacement<"v@:@B@?", albumsScreen::navigateToCollection<PUAlbumsGadgetViewController>>()},
+    {albumsScreen, "PUAlbumsGadgetViewController", instanceMethod, "requestPassword:", addition<"v@:i", albumsScreen::requestPassword>()},
+    {albumsScreen, "PUAlbumsGadgetViewController", instanceMethod, "unlockAuthorised:", addition<"v@:i", albumsScreen::unlockAuthorised>()},
+    {albumsScreen, "PXNavigationListGadget", instanceMethod, "navigateToCollection:animated:completion:", replacement<"v@:@B@?", albumsScreen::navigateToCollection<PXNavigationListGadget>>()},
+    {albumsScreen, "PXNavigationListGadget", instanceMethod, "requestPassword:", addition<"v@:i", albumsScreen::requestPassword>()},
+    {albumsScreen, "PXNavigationListGadget", instanceMethod, "unlockAuthorised:", addition<"v@:i", albumsScreen::unlockAuthorised>()},
+    {albumsScreen, "PUAlbumListCellContentViewHelper", instanceMethod, "configureAlbumListCellContentView:forCollection:title:animated:enabled:editing:", replacement<"v@:@@@BBB", albumsScreen::configureContentView>()},
+    {albumsScreen, "PXHorizontalCollectionGadget", instanceMethod, "previewViewControllerAtLocation:fromSourceView:outSourceRect:", replacement<"@@:{CGPoint=dd}@^{CGRect={CGPoint=dd}{CGSize=dd}}", albumsScreen::previewController>()}, // 12.1 and, inferred, later
 };
 // clang-format on
 

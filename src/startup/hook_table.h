@@ -19,6 +19,7 @@ enum class HookGroup : std::uint8_t {
     springBoard,
     everywhere,          // every process but one: see startup.cpp
     everywhereFromIos10, // and only on iOS 10 or later
+    albumsScreen,        // Photos from iOS 12 on, and only where it is there: see install.h
 };
 
 struct HookRow {

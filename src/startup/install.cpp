@@ -33,11 +33,16 @@ void installRow(const HookRow& row) {
     }
 }
 
+bool isThere(const HookRow& row) {
+    const Class target = classOf(row);
+    return target && (!row.function.slot || class_getInstanceMethod(target, sel_registerName(row.selector)));
+}
+
 } // namespace
 
 void install(HookGroup group) {
     for (const HookRow& row : hookTable())
-        if (row.group == group) installRow(row);
+        if (row.group == group && (group != HookGroup::albumsScreen || isThere(row))) installRow(row);
 }
 
 } // namespace rollkeeper

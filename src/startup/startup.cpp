@@ -57,6 +57,11 @@ void installSharedGroups() {
         install(HookGroup::everywhereFromIos10);
 }
 
+void installAlbumsScreen() {
+    if (isProcess(bundle::photos()) && kCFCoreFoundationVersionNumber >= coreFoundationVersion::ios12)
+        install(HookGroup::albumsScreen);
+}
+
 [[gnu::constructor]] void initialise() {
     const AutoreleasePool pool;
     settings::load();
@@ -65,6 +70,7 @@ void installSharedGroups() {
     if (!settings::enabled) return;
     installHostGroup();
     installSharedGroups();
+    installAlbumsScreen();
 }
 
 [[gnu::constructor]] void initialiseLayoutValues() {

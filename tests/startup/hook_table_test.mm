@@ -3,6 +3,7 @@
 #include "support/table.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 namespace simulator::test {
@@ -36,7 +37,11 @@ constexpr HostCase hosts[] = {
 };
 
 std::vector<HostCase> allCases() {
-    std::vector<HostCase> cases = {{host::whatsApp, "whatsapp", 1299.9}, {host::plain, nullptr, 1300.0}};
+    std::vector<HostCase> cases = {{host::whatsApp, "whatsapp", 1299.9},
+                                   {host::plain, nullptr, 1300.0},
+                                   {host::photos, "photos", 1555.99},
+                                   {host::photos, "photos", 1556.0},
+                                   {host::camera, "camera", 1556.0}};
     for (HostCase each : hosts)
         for (const bool enabled : {true, false}) {
             each.enabled = enabled;
@@ -53,7 +58,9 @@ std::vector<TableRow> expectedRows(const HostCase& host) {
         const std::string& group = row.at("group");
         const bool isOwn = host.group != nullptr && group == host.group;
         const bool fromShared = isShared && (group == "shared" || (group == "sharedFromIos10" && isIos10));
-        if (host.enabled && (isOwn || fromShared)) expected.push_back(row);
+        const bool isNew = host.coreFoundationVersion.value_or(0) >= 1556.0 && group == "albumsScreen" &&
+                           host.bundleIdentifier == std::string(host::photos);
+        if (host.enabled && (isOwn || fromShared || isNew)) expected.push_back(row);
     }
     return expected;
 }
@@ -110,6 +117,39 @@ TEST_P(HookTable, is_installed_in_order_with_own_slots_and_never_changes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, HookTable, testing::ValuesIn(allCases()));
+
+// The rows of the Albums screen that a release has no method for.
+const std::map<Release, std::vector<std::string>> missingOnAlbumsScreen = {
+    {Release::ios12_0,
+     {"navigateToAssetCollection:animated:",
+      "previewViewControllerAtLocation:fromSourceView:outSourceRect:"}},
+    {Release::ios12_4, {"replace PUHorizontalAlbumListGadget -navigateToCollection:animated:completion:"}}};
+
+class AlbumsScreenRows : public LibraryTest, public testing::WithParamInterface<Release> {};
+
+TEST_P(AlbumsScreenRows, are_installed_after_all_others_where_the_release_has_the_method) {
+    change([](Conditions& conditions) { conditions.release = GetParam(); });
+    start(host::photos);
+    std::vector<std::string> expected;
+    for (const TableRow& row : readTable("hook-table.tsv")) {
+        const auto missing = missingOnAlbumsScreen.find(GetParam());
+        if (row.at("group") != "albumsScreen" || missing == missingOnAlbumsScreen.end()) continue;
+        const std::string text = describe(row);
+        if (std::ranges::none_of(missing->second, [&](const auto& each) { return text.ends_with(each); }))
+            expected.push_back(text);
+    }
+    // What comes after the last row of the other groups.
+    std::vector<std::string> installed;
+    for (const Installation& each : host().installations()) {
+        installed.push_back(describe(each));
+        if (each.className == "PHAssetCollection") installed.clear();
+    }
+    EXPECT_EQ(installed, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Releases, AlbumsScreenRows,
+                         testing::Values(Release::ios10_3, Release::ios11_4, Release::ios12_0,
+                                         Release::ios12_4));
 
 } // namespace
 } // namespace simulator::test

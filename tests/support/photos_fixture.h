@@ -42,6 +42,9 @@ inline constexpr NSInteger moveButton = 213;
 inline constexpr NSInteger lockButton = 214;
 } // namespace tag
 
+// "UIImageView 0 0 136 136 {UIVisualEffectView 0 0 136 136; UIImageView 43 43 50 50}"; "none" for nil.
+std::string outline(UIView* view);
+
 class PhotosTest : public LibraryTest {
   protected:
     ~PhotosTest() override;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <future>
+#include <sstream>
 #include <utility>
 
 bool operator==(CGRect a, CGRect b) { return CGRectEqualToRect(a, b); }
@@ -44,6 +45,22 @@ CPDistributedMessagingCenter* fileWritingCentre() {
 }
 
 } // namespace
+
+std::string outline(UIView* view) {
+    if (view == nil) return "none";
+    std::ostringstream out;
+    const CGRect frame = [view frame];
+    out << text(NSStringFromClass([view class])) << ' ' << frame.origin.x << ' ' << frame.origin.y << ' '
+        << frame.size.width << ' ' << frame.size.height;
+    const bool isOpaqueToTests = [view isKindOfClass:[UIVisualEffectView class]];
+    if (isOpaqueToTests || [[view subviews] count] == 0) return out.str();
+    std::string separator = " {";
+    for (UIView* subview in [view subviews]) {
+        out << separator << outline(subview);
+        separator = "; ";
+    }
+    return out.str() + "}";
+}
 
 PhotosTest::~PhotosTest() { [m_recorder release]; }
 

@@ -1,10 +1,10 @@
 #include "common/album_cell.h"
 #include "common/albums.h"
 #include "common/edit_capabilities.h"
+#include "common/lock_overlay.h"
 #include "common/tags.h"
 #include "objc/replacement.h"
 #include "photos/albumlist/hooks.h"
-#include "photos/albumlist/lock_overlay.h"
 #include "photos/albumlist/state.h"
 #include "platform/core_foundation.h"
 #include "settings/settings.h"
@@ -100,7 +100,7 @@ void decorate(PUAlbumListCellContentView contentView) {
     showCountAsSubtitle(contentView, title);
     takeThumbnailSideFromLayout(contentView);
     const Owner<NSMutableArray> lockedTitles = lockedAlbums::reread();
-    updateLockOverlay(contentView, title && lockedTitles->containsObject(title));
+    updateLockOverlay(contentView, title && lockedTitles->containsObject(title), albumListCover());
 }
 
 } // namespace
@@ -127,7 +127,9 @@ void reloadContentView(PUAlbumListViewController self, SEL command) {
 }
 
 UIView cellForItem(PUAlbumListViewController self, SEL command, UIView collectionView, NSIndexPath path) {
+    albumListFillsCell = true;
     const auto cell = cast<PUAlbumListCell>(original<cellForItem>(self, command, collectionView, path));
+    albumListFillsCell = false;
     const PUAlbumListCellContentView contentView = contentViewOf(cell);
 
     // A reused cell gains another recogniser each time: intended to stay so.

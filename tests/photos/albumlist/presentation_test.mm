@@ -5,8 +5,6 @@
 #include <gmock/gmock.h>
 #include <objc/runtime.h>
 
-#include <sstream>
-
 // A cell whose stack view is as wide as a test wants until it is laid out.
 @interface CellOfWidth : PUAlbumListCell
 @end
@@ -28,23 +26,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// "UIImageView 0 0 136 136 {UIVisualEffectView 0 0 136 136; UIImageView 43 43 50 50}".
-std::string outline(UIView* view) {
-    if (view == nil) return "none";
-    std::ostringstream out;
-    const CGRect frame = [view frame];
-    out << text(NSStringFromClass([view class])) << ' ' << frame.origin.x << ' ' << frame.origin.y << ' '
-        << frame.size.width << ' ' << frame.size.height;
-    const bool isOpaqueToTests = [view isKindOfClass:[UIVisualEffectView class]];
-    if (isOpaqueToTests || [[view subviews] count] == 0) return out.str();
-    std::string separator = " {";
-    for (UIView* subview in [view subviews]) {
-        out << separator << outline(subview);
-        separator = "; ";
-    }
-    return out.str() + "}";
-}
 
 class AlbumListPresentation : public PhotosTest {
   protected:
@@ -72,6 +53,7 @@ struct OverlayCase {
     double screenWidth;
     std::string whole; // the frames of the overlay and of the small lock
     std::string lock;
+    Release release = Release::ios10_3;
 };
 
 class LockOverlay : public AlbumListPresentation, public testing::WithParamInterface<OverlayCase> {};
@@ -86,7 +68,10 @@ TEST_P(LockOverlay, has_the_chosen_form) {
                                                  {3, "none"},
                                                  {4, "none"},
                                                  {-1, "none"}};
-    change([](Conditions& conditions) { conditions.screen.width = GetParam().screenWidth; });
+    change([](Conditions& conditions) {
+        conditions.screen.width = GetParam().screenWidth;
+        conditions.release = GetParam().release;
+    });
     openAlbumList();
     for (const auto& [preview, form] : forms) {
         SCOPED_TRACE(preview);
@@ -111,10 +96,13 @@ TEST_P(LockOverlay, has_the_chosen_form) {
 INSTANTIATE_TEST_SUITE_P(Screens, LockOverlay,
                          testing::Values(OverlayCase{320, "0 0 136 136", "43 43 50 50"},
                                          OverlayCase{375, "0 0 164 164", "57 57 50 50"},
+                                         OverlayCase{375, "0 0 164 164", "57 57 50 50", Release::ios12_4},
                                          OverlayCase{390, "0 0 171 171", "60 60 50 50"},
                                          OverlayCase{414, "0 0 181 181", "65 65 50 50"}),
                          [](const auto& info) {
-                             return "width_" + std::to_string(static_cast<int>(info.param.screenWidth));
+                             const bool isNew = info.param.release >= Release::ios12_0;
+                             return "width_" + std::to_string(static_cast<int>(info.param.screenWidth)) +
+                                    (isNew ? "_on_12" : "");
                          });
 
 TEST_F(AlbumListPresentation, thumbnail_side_comes_from_screen_corners_and_stack_view) {

@@ -1,4 +1,4 @@
-#include "filtering/smart_albums.h"
+#include "common/smart_albums.h"
 
 namespace rollkeeper {
 
