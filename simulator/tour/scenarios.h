@@ -8,6 +8,7 @@ namespace simulator::tour {
 
 void loadIntoEveryHost(Stage& stage);
 void lockAnAlbum(Stage& stage);
+void lockOnTheAlbumsScreen(Stage& stage);
 void workWithAlbumContents(Stage& stage);
 void takePhotosIntoAnAlbum(Stage& stage);
 void compareWhatApplicationsSee(Stage& stage);
@@ -16,6 +17,7 @@ void changeSettingsInThePane(Stage& stage);
 inline constexpr Scenario scenarios[] = {
     {"The library loads into every application", loadIntoEveryHost},
     {"An album is locked, opened and emptied", lockAnAlbum},
+    {"On iOS 12 a lock holds on the Albums screen, too", lockOnTheAlbumsScreen},
     {"Photos move between albums and the Camera Roll", workWithAlbumContents},
     {"The Camera and the share sheet save into albums", takePhotosIntoAnAlbum},
     {"What each application sees of the library", compareWhatApplicationsSee},

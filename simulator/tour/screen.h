@@ -27,9 +27,16 @@ class Screen {
         m_host.call({{"do", "tapInAlbumCell"}, {"title", title}, {"tag", tag}});
     }
 
+    // Of the album's cover on the Albums screen.
+    bool hasInCover(const char* title, int tag) {
+        return m_host.call({{"do", "hasInCover"}, {"title", title}, {"tag", tag}}).at("has");
+    }
+
     void tap(int tag) { act("tap", "tag", tag); }
-    void tapAlbum(const char* title) { act("tapAlbum", "title", title); }   // in the list on the screen
-    void openAlbum(const char* title) { act("openAlbum", "title", title); } // from the Albums tab
+    void tapAlbum(const char* title) { act("tapAlbum", "title", title); }             // on the screen
+    void pinchAlbum(const char* title) { act("pinchAlbum", "title", title); }         // on the Albums screen
+    void hardPressAlbum(const char* title) { act("hardPressAlbum", "title", title); } // there, too
+    void openAlbum(const char* title) { act("openAlbum", "title", title); }           // from the Albums tab
     void selectPhotos(const std::vector<std::size_t>& places) { act("selectPhotos", "places", places); }
     void pressButton(const char* title) { act("barButton", "title", title); }
     void answer(const char* action) { act("alertAction", "title", action); }
