@@ -10,8 +10,9 @@ namespace {
 
 PSSpecifier albumSwitch(PSListController page, NSString title) {
     const NSString label = title.length() > 0 ? title : text("albums.untitled"_ns);
-    const PSSpecifier row = PSSpecifier::switchNamed(label, page, selector<"setPreferenceValue:specifier:">(),
-                                                     selector<"readPreferenceValue:">());
+    const PSSpecifier row = PSSpecifier::rowNamed(label, PSCellType::switchCell, page,
+                                                  selector<"setPreferenceValue:specifier:">(),
+                                                  selector<"readPreferenceValue:">());
     const NSString key = "albumName"_ns.stringByAppendingString(title);
     row.setIdentifier(key);
     row.setProperty(key, "key"_ns);

@@ -2,9 +2,15 @@
 
 namespace rollkeeper::pane {
 
-NSBundle bundle() {
-    return NSBundle::bundleWithPath("/Library/PreferenceBundles/RollkeeperPreferences.bundle"_ns);
-}
+namespace {
+NSString folder() { return "/Library/PreferenceBundles/RollkeeperPreferences.bundle/"_ns; }
+} // namespace
+
+NSBundle bundle() { return NSBundle::bundleWithPath(folder()); }
+
+NSString fileInBundle(NSString name) { return folder().stringByAppendingString(name); }
+
+NSString firstPage() { return "Root"_ns; }
 
 NSString text(NSString key) { return bundle().localizedString(key, NSString(), "Rollkeeper"_ns); }
 

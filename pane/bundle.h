@@ -9,6 +9,12 @@ namespace rollkeeper::pane {
 // at run time.
 NSBundle bundle();
 
+// The path of a file of the pane.
+NSString fileInBundle(NSString name);
+
+// The name of the property list of the pane's first page; its rows name those of the others.
+NSString firstPage();
+
 // The text of a key in the user's language; a key without a text is returned as it is.
 NSString text(NSString key);
 

@@ -57,7 +57,7 @@ Owner<NSMutableArray> rowsFromPropertyList(PSListController page) {
     const PSSpecifier opener = page.specifier();
     const auto named = ifKindOf<NSString>(opener.property("page"_ns));
     Owner<NSMutableArray> rows = make<NSMutableArray>();
-    for (PSSpecifier specifier : each<PSSpecifier>(page.loadSpecifiers(named ? named : "Root"_ns))) {
+    for (PSSpecifier specifier : each<PSSpecifier>(page.loadSpecifiers(named ? named : firstPage()))) {
         translate(specifier);
         rows->addObject(specifier);
     }
@@ -70,8 +70,8 @@ void registerPage(const char* className, std::span<const PageMethod> methods) {
     if (!superclass) return; // the new class would become a root class
     const Class page = objc_allocateClassPair(superclass, className, 0);
     if (!page) return;
+    addMethods(page, methods); // come first: what a class has already is not added again
     addMethods(page, commonMethods);
-    addMethods(page, methods);
     objc_registerClassPair(page);
 }
 

@@ -26,8 +26,8 @@ struct PageMethod {
     HookFunction function;
 };
 
-// Registers a class of pages with what all pages do and the given methods. Nothing happens where the
-// framework is missing or the pane is loaded twice.
+// Registers a class of pages with the given methods and, where these are silent, what all pages do. Nothing
+// happens where the framework is missing or the pane is loaded twice.
 void registerPage(const char* className, std::span<const PageMethod> methods);
 
 } // namespace rollkeeper::pane

@@ -14,9 +14,7 @@ bool isRight(NSString old) {
 }
 
 // SpringBoard makes the folder only when it has loaded the library.
-void createFolder() {
-    NSFileManager::defaultManager().createDirectoryAtPath("/var/mobile/Library/rollkeeper"_ns);
-}
+void createFolder() { NSFileManager::defaultManager().createDirectoryAtPath(path::stateFolder()); }
 
 } // namespace
 

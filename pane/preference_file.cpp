@@ -1,5 +1,6 @@
 #include "preference_file.h"
 
+#include "bundle.h"
 #include "platform/core_foundation.h"
 #include "state/paths.h"
 
@@ -25,6 +26,44 @@ void postReload() {
                                          true);
 }
 
+Owner<NSMutableDictionary> readOrEmpty() {
+    const Owner<NSMutableDictionary> preferences = share(read());
+    return preferences ? preferences : make<NSMutableDictionary>();
+}
+
+bool write(NSMutableDictionary preferences) {
+    if (!preferences.writeToFile(path::preferences(), true)) return false;
+    postReload();
+    return true;
+}
+
+// The rows of a page as its property list has them; nil when it cannot be read.
+NSArray rowsOf(NSString page) {
+    const NSString file = fileInBundle(page).stringByAppendingString(".plist"_ns);
+    return cast<NSArray>(NSMutableDictionary::dictionaryWithContentsOfFile(file).objectForKey("items"_ns));
+}
+
+bool setDefaults(NSMutableDictionary preferences, NSString page) {
+    const NSArray rows = rowsOf(page);
+    for (NSDictionary row : each<NSDictionary>(rows))
+        if (const auto key = cast<NSString>(row.objectForKey("key"_ns)))
+            preferences.setObject(row.objectForKey("default"_ns), key);
+    return static_cast<bool>(rows);
+}
+
+bool setDefaultsOfAllPages(NSMutableDictionary preferences) {
+    bool complete = setDefaults(preferences, firstPage());
+    for (NSDictionary row : each<NSDictionary>(rowsOf(firstPage())))
+        if (const auto page = cast<NSString>(row.objectForKey("page"_ns)))
+            complete = setDefaults(preferences, page) && complete;
+    return complete;
+}
+
+void showAlbums(NSMutableDictionary preferences) {
+    for (NSString key : each<NSString>(preferences.allKeys()))
+        if (key.contains("albumName"_ns)) preferences.setObject(NSNumber::numberWithBool(true), key);
+}
+
 } // namespace
 
 NSNumber storedValue(PSSpecifier specifier) {
@@ -33,13 +72,21 @@ NSNumber storedValue(PSSpecifier specifier) {
     return number ? number : cast<NSNumber>(specifier.property("default"_ns));
 }
 
+bool storedSwitch(NSString key, bool fallback) {
+    const NSNumber number = numberFrom(read().objectForKey(key), true);
+    return number ? number.boolValue() : fallback;
+}
+
 bool store(NSObject value, PSSpecifier specifier) {
-    Owner<NSMutableDictionary> preferences = share(read());
-    if (!preferences) preferences = make<NSMutableDictionary>();
+    const Owner<NSMutableDictionary> preferences = readOrEmpty();
     preferences->setObject(value, keyOf(specifier));
-    if (!preferences->writeToFile(path::preferences(), true)) return false;
-    postReload();
-    return true;
+    return write(preferences);
+}
+
+bool reset() {
+    const Owner<NSMutableDictionary> preferences = readOrEmpty();
+    showAlbums(preferences);
+    return setDefaultsOfAllPages(preferences) && write(preferences);
 }
 
 } // namespace rollkeeper::pane

@@ -9,23 +9,24 @@ extern "C" std::ptrdiff_t ivar_getOffset(rollkeeper::Ivar variable);
 
 namespace rollkeeper {
 
-enum class PSCellType : NSInteger { switchCell = 6 };
+enum class PSCellType : NSInteger { group = 0, titleValue = 4, switchCell = 6 };
 
 struct PSSpecifier : NSObject {
     static constexpr FixedString className = "PSSpecifier";
 
-    // A switch whose target reads and writes its value by the methods that `get` and `set` name. The target
-    // is not kept.
-    static PSSpecifier switchNamed(NSString name, NSObject target, SEL set, SEL get) {
+    // A row whose target reads and writes its value by the methods that `get` and `set`, if any, name. The
+    // target is not kept.
+    static PSSpecifier rowNamed(NSString name, PSCellType cell, NSObject target, SEL set, SEL get) {
         return sendToClass<PSSpecifier, "preferenceSpecifierNamed:target:set:get:detail:cell:edit:",
-                           PSSpecifier>(name, target, set, get, Class(), PSCellType::switchCell, Class());
+                           PSSpecifier>(name, target, set, get, Class(), cell, Class());
     }
 
     NSObject property(NSString key) const {
         return send<PSSpecifier, "propertyForKey:", NSObject>(*this, key);
     }
+    // Leaves nil out, for which the platform may raise.
     void setProperty(Object value, NSString key) const {
-        send<PSSpecifier, "setProperty:forKey:", void>(*this, cast<NSObject>(value), key);
+        if (value) send<PSSpecifier, "setProperty:forKey:", void>(*this, cast<NSObject>(value), key);
     }
     NSString identifier() const { return send<PSSpecifier, "identifier", NSString>(*this); }
     void setIdentifier(NSString identifier) const {
@@ -52,6 +53,9 @@ struct PSListController : UIViewController {
     NSArray loadSpecifiers(NSString propertyList) const {
         return send<PSListController, "loadSpecifiersFromPlistName:target:", NSArray>(*this, propertyList,
                                                                                       NSObject(*this));
+    }
+    PSSpecifier specifierForID(NSString identifier) const {
+        return send<PSListController, "specifierForID:", PSSpecifier>(*this, identifier);
     }
     // Forgets the rows and asks for them again.
     void reloadSpecifiers() const { send<PSListController, "reloadSpecifiers", void>(*this); }

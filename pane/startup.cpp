@@ -1,9 +1,11 @@
 // Makes the pane's classes when Settings loads it: there is no Objective-C in this project that would.
 
 #include "albums_page.h"
+#include "first_page.h"
 #include "locking_page.h"
 #include "objc/autorelease_pool.h"
 #include "page.h"
+#include "status_page.h"
 
 namespace rollkeeper::pane {
 
@@ -16,9 +18,11 @@ constexpr PageMethod albumsPageMethods[] = {{"specifiers", addition<"@@:", speci
 // The names stand in the pane's property lists, too.
 [[gnu::constructor]] void registerPages() {
     const AutoreleasePool pool;
+    registerPage("RollkeeperFirstPage", firstPageMethods());
     registerPage("RollkeeperPage", plainPageMethods);
     registerPage("RollkeeperAlbumsPage", albumsPageMethods);
     registerPage("RollkeeperLockingPage", lockingPageMethods());
+    registerPage("RollkeeperStatusPage", statusPageMethods());
 }
 
 } // namespace

@@ -42,6 +42,9 @@ struct NSString : NSObject {
         return send<NSString, "stringByAppendingString:", NSString>(*this, suffix);
     }
 
+    // The number that the text begins with; 0 without one.
+    double doubleValue() const { return send<NSString, "doubleValue", double>(*this); }
+
     bool writeToFile(NSString path, bool atomically, NSStringEncoding encoding) const {
         return send<NSString, "writeToFile:atomically:encoding:error:", bool>(*this, path, atomically,
                                                                               encoding, noError);
@@ -285,6 +288,13 @@ struct NSBundle : NSObject {
     }
 };
 
+struct NSUUID : NSObject {
+    static constexpr FixedString className = "NSUUID";
+
+    static NSUUID UUID() { return sendToClass<NSUUID, "UUID", NSUUID>(); } // a new random one
+    NSString UUIDString() const { return send<NSUUID, "UUIDString", NSString>(*this); }
+};
+
 struct NSFileManager : NSObject {
     static constexpr FixedString className = "NSFileManager";
 
@@ -300,6 +310,9 @@ struct NSFileManager : NSObject {
     void createDirectoryAtPath(NSString path) const {
         send<NSFileManager, "createDirectoryAtPath:withIntermediateDirectories:attributes:error:", bool>(
             *this, path, true, NSDictionary(), NSString::noError);
+    }
+    bool isReadableFileAtPath(NSString path) const {
+        return send<NSFileManager, "isReadableFileAtPath:", bool>(*this, path);
     }
     bool removeItemAtPath(NSString path) const {
         return send<NSFileManager, "removeItemAtPath:error:", bool>(*this, path, NSString::noError);

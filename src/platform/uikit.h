@@ -421,11 +421,21 @@ struct UIDevice : NSObject {
 
     static UIDevice currentDevice() { return sendToClass<UIDevice, "currentDevice", UIDevice>(); }
 
+    NSString systemVersion() const { return send<UIDevice, "systemVersion", NSString>(*this); }
     UIUserInterfaceIdiom userInterfaceIdiom() const {
         return send<UIDevice, "userInterfaceIdiom", UIUserInterfaceIdiom>(*this);
     }
     // Private, and missing on older systems: ask respondsTo first.
     UITapticEngine tapticEngine() const { return send<UIDevice, "_tapticEngine", UITapticEngine>(*this); }
+};
+
+struct UIPasteboard : NSObject {
+    static constexpr FixedString className = "UIPasteboard";
+
+    static UIPasteboard generalPasteboard() {
+        return sendToClass<UIPasteboard, "generalPasteboard", UIPasteboard>();
+    }
+    void setString(NSString text) const { send<UIPasteboard, "setString:", void>(*this, text); }
 };
 
 struct UICollectionViewFlowLayout : NSObject {

@@ -22,6 +22,8 @@ inline NSString cameraAlbumForWriting() { return "/private/var/mobile/Library/ro
 inline NSString lockedAlbums() { return "/var/mobile/Library/rollkeeper/lockedAlbums.plist"_ns; }
 inline NSString lockedAlbumPaths() { return "/var/mobile/Library/rollkeeper/lockedAlbumsPaths.plist"_ns; }
 inline NSString password() { return "/var/mobile/Library/rollkeeper/settings.tct"_ns; }
+// No state: what the settings pane has SpringBoard write to see whether it does.
+inline NSString probe() { return "/var/mobile/Library/rollkeeper/probe.plist"_ns; }
 
 inline NSString albumImage() { return "/Library/Application Support/rollkeeper/album.png"_ns; }
 inline NSString whiteLockImage() { return "/Library/Application Support/rollkeeper/whitelock.png"_ns; }

@@ -42,7 +42,12 @@ PANE = {
     "install name": [],
     "initialisers": 1,
     "dependencies": EVERYWHERE
-    | {"/System/Library/PrivateFrameworks/Preferences.framework/Preferences": ("1.0.0", False)},
+    | {
+        "/System/Library/PrivateFrameworks/Preferences.framework/Preferences": ("1.0.0", False),
+        # The pane is to open, and to say so, where the service cannot be reached.
+        "/System/Library/PrivateFrameworks/AppSupport.framework/AppSupport": ("1.0.0", True),
+        "/usr/lib/librocketbootstrap.dylib": ("0.0.0", True),
+    },
     "imports": {
         ("_CFNotificationCenterPostNotification", f"{FRAMEWORKS}/CoreFoundation.framework/CoreFoundation"),
         ("_ivar_getOffset", "/usr/lib/libobjc.A.dylib"),

@@ -73,7 +73,7 @@ DAMAGES = [
     (values(FILTER, lambda value: value["Filter"].update(Bundles=["com.apple.camera"])), "not every process"),
     (values(ENTRY, lambda value: value["entry"].update(bundle="Other")), "the entry is"),
     (content(ENTRY, lambda whole: whole[:50]), "is no property list"),
-    (text(f"{BUNDLE}/Info.plist", "RollkeeperPage", "Nobody"), "the principal class Nobody"),
+    (text(f"{BUNDLE}/Info.plist", "RollkeeperFirstPage", "Nobody"), "the principal class Nobody"),
     (values(f"{BUNDLE}/Info.plist", lambda value: value.update(CFBundleVersion="0")), "the bundle's information is"),
     (content(DYLIB, lambda data: data[:5000] + b"\0\1\2\3" + data[5004:]), "the library: page"),
     (content(EXECUTABLE, lambda data: data[:5000] + b"\0\1\2\3" + data[5004:]), "the pane's executable: page"),

@@ -141,6 +141,49 @@ TEST_F(PaneSettings, tell_of_each_change_that_is_in_place) {
     EXPECT_EQ(heard, 2) << "there is nothing to tell before the file is in place";
 }
 
+// Photos goes on running all the time: it hears of the defaults, and of albums only by their keys.
+TEST_F(PaneSettings, go_back_to_their_defaults_after_a_question) {
+    change([](Conditions& conditions) { conditions.release = Release::ios11_4; });
+    json changed = {{"albumNameFamily", false}, {"my albumName", "NO"}, {"somethingElse", "kept"}};
+    json defaults = {{"albumNameFamily", true}, {"my albumName", true}, {"somethingElse", "kept"}};
+    for (const TableRow& setting : readTable("settings.tsv")) {
+        defaults[setting.at("key")] = json::parse(setting.at("default"));
+        changed[setting.at("key")] = 1;
+    }
+    changed["showVideos"] = false;
+    writePreferences(changed);
+    lockAlbums({"Work"});
+    device().writeFile(file::password, "secret");
+    HostProcess photos = startProcess(host::photos);
+    const auto lists = [&](const char* title) {
+        return photos.call("albums").dump().find("\"" + std::string(title) + "\"") != std::string::npos;
+    };
+    EXPECT_FALSE(lists("Family") || lists("Videos"));
+    openPane();
+    const auto reset = [&](const char* answer) {
+        settings::tapRow("Reset All Settings");
+        EXPECT_STREQ([[frontAlert() title] UTF8String], "Reset all settings?");
+        tapAlertAction(answer);
+    };
+    reset("Cancel");
+    EXPECT_EQ(stored(), changed);
+    change([](Conditions& conditions) { conditions.faults.diskFull = true; });
+    reset("Reset");
+    EXPECT_THAT(dismissedMessage(), testing::HasSubstr("could not be written"));
+    EXPECT_EQ(stored(), changed);
+    change([](Conditions& conditions) { conditions.faults.diskFull = false; });
+    reset("Reset");
+    EXPECT_EQ(stored(), defaults);
+    EXPECT_EQ(valueOf("Enabled"), 1);
+    waitFor([&] { return lists("Family") && lists("Videos"); });
+    EXPECT_EQ(lockedAlbums(), std::vector<std::string>{"Work"});
+    EXPECT_EQ(device().readFile(file::password), "secret");
+
+    device().writeFile(file::preferences, "no property list");
+    reset("Reset");
+    EXPECT_EQ(stored().size(), readTable("settings.tsv").size());
+}
+
 class PaneOnRelease : public PaneSettings, public testing::WithParamInterface<Release> {};
 
 TEST_P(PaneOnRelease, shows_and_stores_everything) {

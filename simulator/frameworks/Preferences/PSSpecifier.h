@@ -8,6 +8,7 @@ typedef NS_ENUM(NSInteger, PSCellType) {
     PSLinkCell = 1,
     PSLinkListCell = 2,
     PSListItemCell = 3,
+    PSTitleValueCell = 4,
     PSSwitchCell = 6,
     PSButtonCell = 13,
 };
@@ -53,7 +54,7 @@ static NSString* const PSValidTitlesKey = @"validTitles";
 + (instancetype)emptyGroupSpecifier;
 
 - (id)propertyForKey:(NSString*)key;
-/// nil removes the property.
+/// Raises for nil.
 - (void)setProperty:(id)value forKey:(NSString*)key;
 
 /// The property "id".

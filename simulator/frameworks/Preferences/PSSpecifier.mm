@@ -40,7 +40,7 @@
                                   cell:[PSTableCell cellTypeFromString:[row objectForKey:PSTableCellClassKey]]
                                   edit:Nil];
     [specifier->_properties setDictionary:row];
-    if ([specifier identifier] == nil) [specifier setIdentifier:label];
+    if ([specifier identifier] == nil && label != nil) [specifier setIdentifier:label];
     if (action != nil) [specifier setLegacyAction:NSSelectorFromString(action)];
     if (NSArray* values = [row objectForKey:PSValidValuesKey])
         [specifier setValues:values titles:[row objectForKey:PSValidTitlesKey]];
@@ -70,10 +70,7 @@
 }
 
 - (void)setProperty:(id)value forKey:(NSString*)key {
-    if (value != nil)
-        [_properties setObject:value forKey:key];
-    else
-        [_properties removeObjectForKey:key];
+    [_properties setObject:value forKey:key];
 }
 
 - (NSString*)identifier {

@@ -18,6 +18,7 @@ const CellType cellTypes[] = {
     {PSLinkCell, @"PSLinkCell", plain, YES},
     {PSLinkListCell, @"PSLinkListCell", plain, YES},
     {PSListItemCell, @"PSListItemCell", plain, NO},
+    {PSTitleValueCell, @"PSTitleValueCell", plain, NO},
     {PSSwitchCell, @"PSSwitchCell", [] { return [PSSwitchTableCell class]; }, NO},
     {PSButtonCell, @"PSButtonCell", plain, NO},
 };

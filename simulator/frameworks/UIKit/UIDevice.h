@@ -25,6 +25,8 @@ typedef NS_ENUM(NSInteger, UIUserInterfaceIdiom) {
 
 + (UIDevice*)currentDevice;
 
+// As in "10.3".
+@property (nonatomic, readonly) NSString* systemVersion;
 @property (nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
 
 // nil on a device without one.

@@ -1,6 +1,7 @@
 #import "UIKit/UIDevice.h"
 
 #include "device/conditions.h"
+#include "device/strings.h"
 
 @implementation _UITapticEngine
 
@@ -28,6 +29,14 @@
 + (UIDevice*)currentDevice {
     static UIDevice* const device = [[UIDevice alloc] init];
     return device;
+}
+
+- (NSString*)systemVersion {
+    using simulator::Release;
+    const Release release = simulator::currentRelease();
+    // The release that has everything passes for the usual one.
+    return simulator::string(
+        simulator::releaseName(release == Release::complete ? Release::ios10_3 : release));
 }
 
 - (UIUserInterfaceIdiom)userInterfaceIdiom {

@@ -23,6 +23,7 @@
 #import "UIKit/UIImage.h"
 #import "UIKit/UINavigationController.h"
 #import "UIKit/UINavigationItem.h"
+#import "UIKit/UIPasteboard.h"
 #import "UIKit/UIPopoverPresentationController.h"
 #import "UIKit/UIScreen.h"
 #import "UIKit/UIScrollView.h"

@@ -20,7 +20,7 @@ PSListController* pane();
 void openEntry(const std::string& label);
 
 /// The groups and rows of a pane: [{"group": title, "footer": text}, {"label": "Enabled", "cell":
-/// "PSSwitchCell", "key": key, "value": number or null}]. Texts that there are not are empty.
+/// "PSSwitchCell", "key": key, "value": number, text or null}]. Texts that there are not are empty.
 nlohmann::json describePane(PSListController* pane);
 
 /// Turns the switch of a row on or off.

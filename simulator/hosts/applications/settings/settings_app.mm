@@ -19,11 +19,14 @@ json describe(PSSpecifier* specifier) {
     if ([specifier cellType] == PSGroupCell)
         return {{"group", text([specifier name])},
                 {"footer", text([specifier propertyForKey:PSFooterTextGroupKey])}};
-    NSNumber* value = [specifier performGetter];
+    id value = [specifier performGetter];
+    const bool isText = [value isKindOfClass:[NSString class]];
     return {{"label", text([specifier name])},
             {"cell", text([PSTableCell stringFromCellType:[specifier cellType]])},
             {"key", text([specifier propertyForKey:PSKeyNameKey])},
-            {"value", value != nil ? json([value longLongValue]) : json()}};
+            {"value", isText         ? json(text(value))
+                      : value != nil ? json([value longLongValue])
+                                     : json()}};
 }
 
 NSIndexPath* pathOfRow(PSListController* list, const std::string& label) {
