@@ -8,7 +8,13 @@ NSString* const CAMCaptureDidSaveNotification = @"CAMCaptureDidSaveNotification"
 
 namespace {
 constexpr CGSize photoPixels = {400, 300};
+constexpr NSUInteger firstScenery = 101; // other ones than a sample library's
+
+UIImage* pictureNumbered(NSUInteger capture) {
+    return [UIImage imageWithPixelSize:photoPixels seed:firstScenery + capture];
 }
+
+} // namespace
 
 @implementation CAMCaptureEngine
 
@@ -36,6 +42,10 @@ constexpr CGSize photoPixels = {400, 300};
     }
 }
 
+- (UIImage*)pictureInSight {
+    return pictureNumbered(_capturesSaved);
+}
+
 - (void)captureStillImageWithError:(NSError*)error {
     NSError* outcome = [error retain];
     simulator::performOnThread(_captureThread, [self, outcome] {
@@ -45,10 +55,9 @@ constexpr CGSize photoPixels = {400, 300};
 
 - (void)captureOutput:(id)output didFinishCaptureForResolvedSettings:(id)settings error:(NSError*)error {
     if (error != nil) return;
-    const NSUInteger seed = ++_capturesSaved;
+    const NSUInteger number = _capturesSaved++;
     [self _saveToLibrary:^{
-        [PHAssetChangeRequest creationRequestForAssetFromImage:[UIImage imageWithPixelSize:photoPixels
-                                                                                      seed:seed]];
+        [PHAssetChangeRequest creationRequestForAssetFromImage:pictureNumbered(number)];
     }];
 }
 

@@ -2,6 +2,8 @@
 
 #import "PhotosUI/ScreenHelpers.h"
 
+#include "UIKit/model/Outlines.h"
+
 #include <objc/runtime.h>
 
 namespace {
@@ -10,6 +12,9 @@ constexpr CGFloat bottomBarHeight = 100;
 constexpr CGFloat imageWellSide = 44;
 constexpr CGFloat shutterSide = 66;
 constexpr CGFloat margin = 16;
+constexpr CGFloat topBarHeight = 44;
+constexpr CGFloat modesHeight = 30;
+constexpr CGFloat symbolSide = 20;
 
 UIImage* pictureOfNewestPhoto() {
     if (objc_getClass("PHAsset") == Nil) return nil; // before iOS 8
@@ -37,6 +42,13 @@ UIImage* pictureOfNewestPhoto() {
     [self updateThumbnail];
 }
 
+// The picture fills the button.
+- (void)layoutSubviews {
+    [super layoutSubviews];
+    for (UIView* picture in [self subviews])
+        [picture setFrame:[self bounds]];
+}
+
 - (void)updateThumbnail {
     [self setImage:[self thumbnailImage] forState:UIControlStateNormal];
 }
@@ -57,8 +69,21 @@ UIImage* pictureOfNewestPhoto() {
     [_backgroundView setBackgroundColor:[UIColor blackColor]];
     [_backgroundView setUserInteractionEnabled:NO];
     _imageWell = [[CAMImageWell alloc] initWithFrame:CGRectMake(0, 0, imageWellSide, imageWellSide)];
+    [_imageWell setClipsToBounds:YES];
     _shutterButton = [[UIButton buttonWithType:UIButtonTypeCustom] retain];
     [_shutterButton setBounds:CGRectMake(0, 0, shutterSide, shutterSide)];
+    [_shutterButton setBackgroundColor:[UIColor whiteColor]];
+    [[_shutterButton layer] setCornerRadius:shutterSide / 2];
+    UIView* ring = [[[UIView alloc] initWithFrame:CGRectInset([_shutterButton bounds], 6, 6)] autorelease];
+    [ring setBackgroundColor:[UIColor blackColor]];
+    [[ring layer] setCornerRadius:[ring bounds].size.width / 2];
+    UIView* disc = [[[UIView alloc] initWithFrame:CGRectInset([_shutterButton bounds], 8, 8)] autorelease];
+    [disc setBackgroundColor:[UIColor whiteColor]];
+    [[disc layer] setCornerRadius:[disc bounds].size.width / 2];
+    for (UIView* view in @[ ring, disc ]) {
+        [view setUserInteractionEnabled:NO];
+        [_shutterButton addSubview:view];
+    }
     for (UIView* view in @[ _backgroundView, _imageWell, _shutterButton ])
         [self addSubview:view];
     return self;
@@ -99,6 +124,7 @@ UIImage* pictureOfNewestPhoto() {
 - (void)dealloc {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
     [_captureController release];
+    [_previewView release];
     [_bottomBar release];
     [super dealloc];
 }
@@ -106,6 +132,26 @@ UIImage* pictureOfNewestPhoto() {
 - (void)viewDidLoad {
     [super viewDidLoad];
     const CGSize size = [[self view] bounds].size;
+    [[self view] setBackgroundColor:[UIColor blackColor]];
+    const CGRect preview =
+        CGRectMake(0, topBarHeight, size.width, size.height - topBarHeight - bottomBarHeight - modesHeight);
+    _previewView = [[UIImageView alloc] initWithFrame:preview];
+    [_previewView setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
+    [_previewView setContentMode:UIViewContentModeScaleAspectFill];
+    [_previewView setClipsToBounds:YES];
+    UILabel* modes = [[[UILabel alloc]
+        initWithFrame:CGRectMake(0, CGRectGetMaxY(preview), size.width, modesHeight)] autorelease];
+    [modes setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleTopMargin];
+    [modes setFont:[UIFont systemFontOfSize:13]];
+    [modes setTextColor:[UIColor colorWithRed:1 green:0.8 blue:0 alpha:1]];
+    [modes setTextAlignment:NSTextAlignmentCenter];
+    [modes setText:@"PHOTO"];
+    UIImageView* flash =
+        [[[UIImageView alloc] initWithImage:[UIImage imageWithOutline:simulator::outline::bolt]] autorelease];
+    [flash setFrame:CGRectMake(margin, (topBarHeight - symbolSide) / 2, symbolSide, symbolSide)];
+    [flash setTintColor:[UIColor whiteColor]];
+    for (UIView* view in @[ _previewView, modes, flash ])
+        [[self view] addSubview:view];
     _bottomBar = [[CAMBottomBar alloc]
         initWithFrame:CGRectMake(0, size.height - bottomBarHeight, size.width, bottomBarHeight)];
     [_bottomBar setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleTopMargin];
@@ -120,12 +166,17 @@ UIImage* pictureOfNewestPhoto() {
     [self _showNewestPhoto];
 }
 
+- (BOOL)prefersStatusBarHidden {
+    return YES;
+}
+
 - (void)_shutterPressed:(id)sender {
     [_captureController captureStillImageWithError:nil];
 }
 
 - (void)_showNewestPhoto {
     [[_bottomBar imageWell] setThumbnailImage:pictureOfNewestPhoto()];
+    [_previewView setImage:[_captureController pictureInSight]];
 }
 
 @end

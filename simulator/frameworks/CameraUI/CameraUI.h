@@ -2,13 +2,17 @@
 
 #import "UIKit/UIKit.h"
 
+#include <atomic>
+
 /// Runs the camera. Captures end on a thread of its own that runs a run loop; the engine lives as long as the
 /// process.
 @interface CAMCaptureEngine : NSObject {
     NSThread* _captureThread;
-    NSUInteger _capturesSaved;
+    std::atomic<NSUInteger> _capturesSaved;
 }
 @property (nonatomic, readonly) NSThread* captureThread;
+/// What the camera points at: the next photo. Any thread.
+- (UIImage*)pictureInSight;
 /// Takes a photo, which fails when there is an error; the end of the capture follows on the capture thread.
 /// Any thread.
 - (void)captureStillImageWithError:(NSError*)error;
@@ -46,6 +50,7 @@ extern NSString* const CAMCaptureDidSaveNotification;
 @interface CAMViewfinderViewController : UIViewController {
     CAMCaptureEngine* _captureController;
     CAMBottomBar* _bottomBar;
+    UIImageView* _previewView;
 }
 @property (nonatomic, readonly) CAMCaptureEngine* captureController;
 @property (nonatomic, readonly) CAMBottomBar* bottomBar;

@@ -14,6 +14,7 @@ bool isUserAlbum(PHCollection* collection);
 bool isShown(PHCollection* collection);
 /// Of photos in an album, of collections in a folder.
 NSUInteger countIn(PHCollection* collection);
+/// nil for an album without photos, which shows a symbol instead.
 UIImage* coverOf(PHCollection* collection, CGFloat side);
 /// The screen that shows what is in the album.
 UIViewController* contentsOf(PHAssetCollection* album);

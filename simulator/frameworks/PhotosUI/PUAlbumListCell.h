@@ -15,9 +15,12 @@ typedef NS_OPTIONS(NSUInteger, PUAlbumEditCapabilities) {
 /// The square that shows an album's cover, with rounded corners.
 @interface PUStackView : UIView {
     UIImageView* _coverView;
+    UIImageView* _symbolView;
     UIImageView* _cornerOverlayView;
 }
 @property (nonatomic, readonly) UIImageView* coverView;
+/// Shows the picture or, for nil, the symbol on grey.
+- (void)setCover:(UIImage*)cover orSymbol:(const char*)outline;
 @end
 
 @protocol PUAlbumListCellDelegate <NSObject>

@@ -1,9 +1,12 @@
 #import "PhotosUI/PUAlbumListCell.h"
 
+#include "UIKit/model/Outlines.h"
+
 #include <objc/runtime.h>
 
 namespace {
 
+constexpr CGFloat coverCornerRadius = 5;
 constexpr CGFloat titleHeight = 20;
 constexpr CGFloat subtitleHeight = 16;
 constexpr CGFloat gapBelowCover = 4;
@@ -19,6 +22,13 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
     self = [super initWithFrame:frame];
     if (!self) return nil;
     _coverView = [[UIImageView alloc] initWithFrame:[self bounds]];
+    [_coverView setContentMode:UIViewContentModeScaleAspectFill];
+    [_coverView setBackgroundColor:[UIColor colorWithWhite:0.92 alpha:1]];
+    [_coverView setClipsToBounds:YES];
+    [[_coverView layer] setCornerRadius:coverCornerRadius];
+    _symbolView = [[UIImageView alloc] initWithFrame:CGRectZero];
+    [_symbolView setTintColor:[UIColor colorWithWhite:0.75 alpha:1]];
+    [_coverView addSubview:_symbolView];
     [self addSubview:_coverView];
     // nil before iOS 10, when the corners were part of the picture.
     _cornerOverlayView = [[objc_getClass("PXRoundedCornerOverlayView") alloc] initWithFrame:[self bounds]];
@@ -28,6 +38,7 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
 
 - (void)dealloc {
     [_coverView release];
+    [_symbolView release];
     [_cornerOverlayView release];
     [super dealloc];
 }
@@ -35,7 +46,14 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
 - (void)layoutSubviews {
     [super layoutSubviews];
     [_coverView setFrame:[self bounds]];
+    [_symbolView
+        setFrame:CGRectInset([self bounds], [self bounds].size.width / 3, [self bounds].size.height / 3)];
     [_cornerOverlayView setFrame:[self bounds]];
+}
+
+- (void)setCover:(UIImage*)cover orSymbol:(const char*)outline {
+    [_coverView setImage:cover];
+    [_symbolView setImage:cover == nil ? [UIImage imageWithOutline:outline] : nil];
 }
 
 @end
@@ -56,6 +74,7 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
     [_titleTextField setUserInteractionEnabled:NO];
     _subtitleLabel = [[UILabel alloc] initWithFrame:CGRectZero];
     [_subtitleLabel setFont:[UIFont systemFontOfSize:12]];
+    [_subtitleLabel setTextColor:[UIColor colorWithWhite:0.55 alpha:1]];
     for (UIView* view in @[ _stackView, _titleTextField, _subtitleLabel ])
         [self addSubview:view];
     return self;
@@ -110,6 +129,11 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
         Class buttonClass = ownClass != Nil ? ownClass : [UIButton class];
         _deleteButton = [[buttonClass buttonWithType:UIButtonTypeCustom] retain];
         [_deleteButton setFrame:deleteButtonFrame];
+        [_deleteButton setBackgroundColor:[UIColor colorWithWhite:0.5 alpha:1]];
+        [[_deleteButton layer] setCornerRadius:deleteButtonFrame.size.width / 2];
+        [_deleteButton setTintColor:[UIColor whiteColor]];
+        [_deleteButton setImage:[UIImage imageWithOutline:simulator::outline::cross]
+                       forState:UIControlStateNormal];
         [_deleteButton addTarget:self
                           action:@selector(_deleteAction:)
                 forControlEvents:UIControlEventTouchUpInside];

@@ -1,6 +1,7 @@
 #import "PhotosUI/PUAlbumListCellContentViewHelper.h"
 
 #import "PhotosUI/Albums.h"
+#include "UIKit/model/Outlines.h"
 
 @implementation PUAlbumListCellContentViewHelper
 
@@ -23,7 +24,8 @@ namespace simulator {
 
 void showCover(PUAlbumListCellContentView* contentView, PHCollection* collection) {
     PUStackView* stack = [contentView stackView];
-    [[stack coverView] setImage:coverOf(collection, [stack bounds].size.width)];
+    [stack setCover:coverOf(collection, [stack bounds].size.width)
+           orSymbol:collection == nil ? outline::person : outline::photos];
 }
 
 } // namespace simulator

@@ -3,6 +3,7 @@
 #import "PhotosUI/Albums.h"
 #import "PhotosUI/PUAlbumListCellContentViewHelper.h"
 #import "PhotosUI/ScreenHelpers.h"
+#include "UIKit/model/Outlines.h"
 
 #include <objc/runtime.h>
 
@@ -13,6 +14,7 @@ using simulator::albumOf;
 using simulator::barButton;
 using simulator::hasSubtype;
 using simulator::isUserAlbum;
+using simulator::symbolButton;
 
 namespace {
 
@@ -101,8 +103,19 @@ NSUInteger editCapabilitiesOf(PHCollection* collection) {
     CGRect rest = [[self view] bounds];
     _pickerBannerView = [[UIView alloc] initWithFrame:CGRectMake(0, 0, rest.size.width, bannerHeight)];
     [_pickerBannerView setAutoresizingMask:UIViewAutoresizingFlexibleWidth];
-    UILabel* label =
-        [[[UILabel alloc] initWithFrame:CGRectInset([_pickerBannerView bounds], 16, 16)] autorelease];
+    [_pickerBannerView setBackgroundColor:[UIColor colorWithWhite:0.97 alpha:1]];
+    CGRect thumbnail = CGRectMake(16, 12, bannerHeight - 24, bannerHeight - 24);
+    UIImageView* picked = [[[UIImageView alloc] initWithFrame:thumbnail] autorelease];
+    [picked setContentMode:UIViewContentModeScaleAspectFill];
+    [picked setClipsToBounds:YES];
+    PHAsset* first = [[[_sessionInfo transferredAssets] array] firstObject];
+    [picked setImage:simulator::pictureOf(first, thumbnail.size)];
+    [_pickerBannerView addSubview:picked];
+    const CGFloat left = CGRectGetMaxX(thumbnail) + 12;
+    UILabel* label = [[[UILabel alloc]
+        initWithFrame:CGRectMake(left, 0, rest.size.width - left - 16, bannerHeight)] autorelease];
+    [label setAutoresizingMask:UIViewAutoresizingFlexibleWidth];
+    [label setFont:[UIFont systemFontOfSize:15]];
     const NSUInteger count = [[_sessionInfo transferredAssets] count];
     [label setText:[NSString stringWithFormat:@"Add %lu photo%s to an album.", count, count == 1 ? "" : "s"]];
     [_pickerBannerView addSubview:label];
@@ -145,9 +158,11 @@ NSUInteger editCapabilitiesOf(PHCollection* collection) {
         return;
     }
     UIBarButtonItem* edit = barButton([self isEditing] ? @"Done" : @"Edit", self, @selector(_toggleEditing:));
-    UIBarButtonItem* search = [self disallowsSearch] ? nil : barButton(@"Search", nil, nullptr);
+    UIBarButtonItem* search =
+        [self disallowsSearch] ? nil : symbolButton(simulator::outline::search, @"Search", nil, nullptr);
     [item setRightBarButtonItems:[NSArray arrayWithObjects:edit, search, nil]];
-    if ([item leftBarButtonItem] == nil) [item setLeftBarButtonItem:barButton(@"+", nil, nullptr)];
+    [item setLeftBarButtonItem:symbolButton(simulator::outline::plus, @"+", nil, nullptr)];
+    [[[self navigationController] navigationBar] setNeedsLayout];
 }
 
 - (BOOL)showPeople {

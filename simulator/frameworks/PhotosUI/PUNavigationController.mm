@@ -6,6 +6,12 @@
     return YES;
 }
 
+- (void)pu_updateTabBarVisibility {
+    UITabBarController* tabs = [self tabBarController];
+    [[tabs tabBar] setHidden:![self pu_wantsTabBarVisible]];
+    [[tabs viewIfLoaded] setNeedsLayout];
+}
+
 @end
 
 @implementation PUNavigationController
@@ -21,7 +27,7 @@
     UIViewController* top = [self topViewController];
     [self _setCurrentToolbarViewController:top];
     [[self navigationBar] setNeedsLayout]; // its buttons are the new screen's
-    if (top != nil) [[[self tabBarController] tabBar] setHidden:![top pu_wantsTabBarVisible]];
+    [top pu_updateTabBarVisibility];
 }
 
 - (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated {

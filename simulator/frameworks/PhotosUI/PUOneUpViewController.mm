@@ -80,7 +80,10 @@
 
 - (void)viewDidLoad {
     [super viewDidLoad];
+    [[self navigationItem] setLeftItemsSupplementBackButton:YES];
+    [[self view] setBackgroundColor:[UIColor whiteColor]];
     UIView* tile = [[self _currentContentTileController] view];
+    [tile setContentMode:UIViewContentModeScaleAspectFit];
     if (tile != nil) [[self view] addSubview:tile];
     [_barsController updateBars];
 }

@@ -5,9 +5,12 @@
 #import "PhotosUI/PUPhotoActions.h"
 #import "PhotosUI/ScreenHelpers.h"
 
+#include "UIKit/model/Outlines.h"
+
 #include <objc/runtime.h>
 
 using simulator::barButton;
+using simulator::symbolButton;
 
 namespace {
 
@@ -15,6 +18,8 @@ NSString* const cellIdentifier = @"photo";
 constexpr CGFloat columns = 4;
 constexpr CGFloat gap = 1;
 constexpr NSInteger pictureTag = 1;
+constexpr NSInteger tickTag = 2;
+constexpr CGFloat tickSide = 22;
 
 UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     UIView* content = [cell contentView];
@@ -22,9 +27,29 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     if (picture != nil) return picture;
     picture = [[[UIImageView alloc] initWithFrame:[content bounds]] autorelease];
     [picture setTag:pictureTag];
+    [picture setContentMode:UIViewContentModeScaleAspectFill];
+    [picture setClipsToBounds:YES];
     [picture setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
     [content addSubview:picture];
     return picture;
+}
+
+// Pale, with a tick in the corner.
+void showSelected(UICollectionViewCell* cell, bool selected) {
+    UIImageView* picture = pictureViewOf(cell);
+    [picture setAlpha:selected ? 0.5 : 1];
+    UIView* content = [cell contentView];
+    [[content viewWithTag:tickTag] removeFromSuperview];
+    if (!selected) return;
+    const CGSize size = [content bounds].size;
+    UIImageView* tick = [[[UIImageView alloc]
+        initWithImage:[UIImage imageWithOutline:simulator::outline::check]] autorelease];
+    [tick setTag:tickTag];
+    [tick setFrame:CGRectMake(size.width - tickSide - 4, size.height - tickSide - 4, tickSide, tickSide)];
+    [tick setTintColor:[UIColor whiteColor]];
+    [tick setBackgroundColor:[UIColor colorWithRed:0 green:0.48 blue:1 alpha:1]];
+    [[tick layer] setCornerRadius:tickSide / 2];
+    [content addSubview:tick];
 }
 
 } // namespace
@@ -80,6 +105,7 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     [super viewDidLoad];
     [[self collectionView] registerClass:[UICollectionViewCell class]
               forCellWithReuseIdentifier:cellIdentifier];
+    [[self navigationItem] setLeftItemsSupplementBackButton:YES];
     [self _updateNavigationItem];
 }
 
@@ -114,7 +140,7 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     else if ([self isEditing])
         tools = @[
             barButton(@"Add To", self, @selector(_addToAlbumButtonPressed:)),
-            barButton(@"Delete", self, @selector(_removeButtonPressed:))
+            symbolButton(simulator::outline::trash, @"Delete", self, @selector(_removeButtonPressed:))
         ];
     [self setToolbarItems:tools animated:NO];
     [[self navigationController] setToolbarHidden:tools == nil];
@@ -131,7 +157,7 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     PHAsset* asset = [_assets objectAtIndex:static_cast<NSUInteger>([path item])];
     UIImageView* picture = pictureViewOf(cell);
     [picture setImage:simulator::pictureOf(asset, [picture bounds].size)];
-    [picture setAlpha:[_selectedAssets containsObject:asset] ? 0.5 : 1];
+    showSelected(cell, [_selectedAssets containsObject:asset]);
     return cell;
 }
 
@@ -145,7 +171,7 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     }
     const BOOL selected = ![_selectedAssets containsObject:asset];
     [self setSelected:selected forAsset:asset];
-    [pictureViewOf([collectionView cellForItemAtIndexPath:path]) setAlpha:selected ? 0.5 : 1];
+    showSelected([collectionView cellForItemAtIndexPath:path], selected);
 }
 
 - (void)_openAsset:(PHAsset*)asset {
@@ -166,7 +192,7 @@ UIImageView* pictureViewOf(UICollectionViewCell* cell) {
     [super setEditing:editing animated:animated];
     if (!editing) [_selectedAssets removeAllObjects];
     [self _updateNavigationItem];
-    [[[self tabBarController] tabBar] setHidden:![self pu_wantsTabBarVisible]];
+    [self pu_updateTabBarVisibility];
     if ([self isViewLoaded]) [[self collectionView] reloadData];
 }
 

@@ -2,6 +2,7 @@
 
 #import "PhotosUI/PUNavigationController.h"
 
+#include "UIKit/model/Outlines.h"
 #include "device/releases.h"
 
 #include <objc/runtime.h>
@@ -14,12 +15,15 @@ constexpr struct Tab {
     PUContentMode mode;
     simulator::Release since;
     const char* title;
+    const char* symbol;
     const char* controllerClass;
 } tabs[] = {
-    {PUContentModePhotos, simulator::Release::ios7_1, "Photos", "PUZoomableGridViewController"},
-    {PUContentModeMemories, simulator::Release::ios10_1, "Memories", nullptr},
-    {PUContentModeShared, simulator::Release::ios7_1, "Shared", nullptr},
-    {PUContentModeAlbums, simulator::Release::ios7_1, "Albums", "PUAlbumListViewController"},
+    {PUContentModePhotos, simulator::Release::ios7_1, "Photos", simulator::outline::photos,
+     "PUZoomableGridViewController"},
+    {PUContentModeMemories, simulator::Release::ios10_1, "Memories", simulator::outline::memories, nullptr},
+    {PUContentModeShared, simulator::Release::ios7_1, "Shared", simulator::outline::shared, nullptr},
+    {PUContentModeAlbums, simulator::Release::ios7_1, "Albums", simulator::outline::albums,
+     "PUAlbumListViewController"},
 };
 
 const char* controllerClassOf(const Tab& tab) {
@@ -70,7 +74,8 @@ UIViewController* makeRootController(const char* className, NSString* title) {
         NSString* title = [NSString stringWithUTF8String:tab.title];
         PUNavigationController* navigation = [[[PUNavigationController alloc]
             initWithRootViewController:makeRootController(controllerClassOf(tab), title)] autorelease];
-        [navigation setTabBarItem:[[[UITabBarItem alloc] initWithTitle:title image:nil
+        [navigation setTabBarItem:[[[UITabBarItem alloc] initWithTitle:title
+                                                                 image:[UIImage imageWithOutline:tab.symbol]
                                                                    tag:tab.mode] autorelease]];
         [controllers addObject:navigation];
     }

@@ -9,6 +9,9 @@ namespace simulator {
 /// A button with a title, as bars have them. The target is not retained.
 UIBarButtonItem* barButton(NSString* title, id target, SEL action);
 
+/// A button with a symbol, whose title is read out only. The target is not retained.
+UIBarButtonItem* symbolButton(const char* outline, NSString* title, id target, SEL action);
+
 /// The picture of an asset for a view of that size in points, read at once; nil for nil.
 UIImage* pictureOf(PHAsset* asset, CGSize size, PHImageContentMode mode = PHImageContentModeAspectFill);
 

@@ -11,6 +11,12 @@ UIBarButtonItem* barButton(NSString* title, id target, SEL action) {
                                             action:action] autorelease];
 }
 
+UIBarButtonItem* symbolButton(const char* outline, NSString* title, id target, SEL action) {
+    UIBarButtonItem* button = barButton(title, target, action);
+    [button setImage:[UIImage imageWithOutline:outline]];
+    return button;
+}
+
 UIImage* pictureOf(PHAsset* asset, CGSize size, PHImageContentMode mode) {
     if (asset == nil) return nil;
     PHImageRequestOptions* options = [[[PHImageRequestOptions alloc] init] autorelease];

@@ -24,6 +24,7 @@ static NSString* const PSDetailControllerClassKey = @"detail";
 static NSString* const PSBundlePathKey = @"bundle";
 static NSString* const PSBundleIsControllerKey = @"isController";
 static NSString* const PSLazilyLoadedBundleKey = @"lazy-bundle";
+static NSString* const PSIconImageKey = @"iconImage";
 static NSString* const PSFooterTextGroupKey = @"footerText";
 static NSString* const PSValidValuesKey = @"validValues";
 static NSString* const PSValidTitlesKey = @"validTitles";

@@ -71,6 +71,7 @@ const CellType* cellTypeNumbered(NSInteger number) {
 - (void)refreshCellContentsWithSpecifier:(PSSpecifier*)specifier {
     [self setSpecifier:specifier];
     [[self textLabel] setText:[specifier name]];
+    if (UIImage* icon = [specifier propertyForKey:PSIconImageKey]) [[self imageView] setImage:icon];
     [self setValue:[specifier performGetter]];
 }
 

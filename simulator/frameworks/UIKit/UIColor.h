@@ -1,15 +1,16 @@
-// A shade of grey and its opacity, each from 0 to 1: the screens have no other colours of their own yet.
-// Immutable; any thread.
+// A colour and its opacity, each part from 0 to 1. Immutable; any thread.
 #pragma once
 
 #import "CoreGraphics/CoreGraphics.h"
 
+#include <array>
+
 @interface UIColor : NSObject {
   @private
-    CGFloat _white;
-    CGFloat _alpha;
+    std::array<CGFloat, 4> _parts; // red, green, blue, alpha
 }
 
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 + (UIColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
 + (UIColor*)clearColor;
 + (UIColor*)blackColor;

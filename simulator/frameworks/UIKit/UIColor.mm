@@ -2,11 +2,14 @@
 
 @implementation UIColor
 
-+ (UIColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha {
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
     UIColor* color = [[[self alloc] init] autorelease];
-    color->_white = white;
-    color->_alpha = alpha;
+    color->_parts = {red, green, blue, alpha};
     return color;
+}
+
++ (UIColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha {
+    return [self colorWithRed:white green:white blue:white alpha:alpha];
 }
 
 + (UIColor*)clearColor {
@@ -22,23 +25,27 @@
 }
 
 - (UIColor*)colorWithAlphaComponent:(CGFloat)alpha {
-    return [UIColor colorWithWhite:_white alpha:alpha];
+    return [UIColor colorWithRed:_parts[0] green:_parts[1] blue:_parts[2] alpha:alpha];
 }
 
 - (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha {
-    *red = *green = *blue = _white;
-    *alpha = _alpha;
+    *red = _parts[0];
+    *green = _parts[1];
+    *blue = _parts[2];
+    *alpha = _parts[3];
     return YES;
 }
 
 - (BOOL)isEqual:(id)other {
     if (![other isKindOfClass:[UIColor class]]) return NO;
-    auto* color = static_cast<UIColor*>(other);
-    return color->_white == _white && color->_alpha == _alpha ? YES : NO;
+    return static_cast<UIColor*>(other)->_parts == _parts ? YES : NO;
 }
 
 - (NSUInteger)hash {
-    return static_cast<NSUInteger>(_white * 255) * 256 + static_cast<NSUInteger>(_alpha * 255);
+    NSUInteger hash = 0;
+    for (const CGFloat part : _parts)
+        hash = hash * 256 + static_cast<NSUInteger>(part * 255);
+    return hash;
 }
 
 @end

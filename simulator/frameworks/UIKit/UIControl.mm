@@ -52,6 +52,11 @@
     [self setNeedsLayout];
 }
 
+- (void)setTintColor:(UIColor*)color {
+    [super setTintColor:color];
+    [_imageView setTintColor:color];
+}
+
 // Picture and title stand side by side in the middle.
 - (void)layoutSubviews {
     [super layoutSubviews];

@@ -44,6 +44,12 @@ NSString* bestFile(NSString* path) {
     return image;
 }
 
++ (UIImage*)imageWithOutline:(const char*)outline {
+    UIImage* image = [self imageWithPixelSize:CGSizeMake(24, 24) seed:0];
+    image->_outline = outline;
+    return image;
+}
+
 - (instancetype)initWithContentsOfFile:(NSString*)path {
     NSString* file = [path length] > 0 ? bestFile(path) : nil;
     self = [self initWithData:file != nil ? [NSData dataWithContentsOfFile:file] : nil
@@ -76,10 +82,26 @@ NSString* bestFile(NSString* path) {
 }
 
 - (NSData*)file {
-    if (_file != nil) return _file;
+    if (_file != nil || _outline != nullptr) return _file;
     const auto file = simulator::generatedPng(
         {static_cast<std::uint32_t>(_pixelSize.width), static_cast<std::uint32_t>(_pixelSize.height)}, _seed);
     return [NSData dataWithBytes:file.data() length:file.size()];
+}
+
+@end
+
+@implementation UIImage (Drawing)
+
+- (const char*)outline {
+    return _outline;
+}
+
+- (NSInteger)sceneryNumber {
+    return _file == nil && _outline == nullptr ? static_cast<NSInteger>(_seed) : -1;
+}
+
+- (CGSize)pixelSize {
+    return _pixelSize;
 }
 
 @end

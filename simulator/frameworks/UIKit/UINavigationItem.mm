@@ -12,7 +12,8 @@ void replace(NSArray** items, NSArray* replacement) {
 @implementation UINavigationItem
 
 @synthesize title = _title, leftBarButtonItems = _leftBarButtonItems,
-            rightBarButtonItems = _rightBarButtonItems;
+            rightBarButtonItems = _rightBarButtonItems,
+            leftItemsSupplementBackButton = _leftItemsSupplementBackButton;
 
 + (BOOL)isMainThreadOnly {
     return YES;

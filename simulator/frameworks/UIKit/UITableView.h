@@ -6,7 +6,7 @@
 
 #include <vector>
 
-@class UILabel, UITableView;
+@class UIImageView, UILabel, UITableView;
 
 typedef NS_ENUM(NSInteger, UITableViewStyle) {
     UITableViewStylePlain = 0,
@@ -28,6 +28,7 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 @interface UITableViewCell : ListCell {
   @private
     UILabel* _textLabel;
+    UIImageView* _imageView;
     UILabel* _detailTextLabel;
     UIView* _accessoryView;
     UITableViewCellStyle _cellStyle;
@@ -37,6 +38,7 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString*)reuseIdentifier;
 
 @property (nonatomic, readonly, retain) UILabel* textLabel;
+@property (nonatomic, readonly, retain) UIImageView* imageView;
 // nil in the default style.
 @property (nonatomic, readonly, retain) UILabel* detailTextLabel;
 @property (nonatomic) UITableViewCellAccessoryType accessoryType;
@@ -73,6 +75,7 @@ struct TableRow {
   @private
     std::vector<simulator::TableRow> _rows;
     NSMutableArray* _sectionTexts;
+    UITableViewStyle _style;
 }
 
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style;

@@ -8,7 +8,8 @@ namespace {
 constexpr CGFloat rowHeight = 44;
 constexpr CGFloat sectionTextSize = 13;
 constexpr CGFloat sectionTextMargin = 15; // at the sides
-constexpr CGFloat sectionTextSpace = 7;   // above and below
+constexpr CGFloat spaceAboveGroup = 16;
+constexpr CGFloat sectionTextSpace = 7; // above and below
 
 } // namespace
 
@@ -17,6 +18,9 @@ constexpr CGFloat sectionTextSpace = 7;   // above and below
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style {
     self = [self initWithFrame:frame];
     _sectionTexts = [[NSMutableArray alloc] init];
+    _style = style;
+    [self setBackgroundColor:style == UITableViewStyleGrouped ? [UIColor colorWithWhite:0.94 alpha:1]
+                                                              : [UIColor whiteColor]];
     return self;
 }
 
@@ -34,6 +38,7 @@ constexpr CGFloat sectionTextSpace = 7;   // above and below
     const NSInteger sections = hasSections ? [source numberOfSectionsInTableView:self] : 1;
     CGFloat top = 0;
     for (NSInteger section = 0; section < sections; ++section) {
+        if (_style == UITableViewStyleGrouped) top += spaceAboveGroup;
         if ([source respondsToSelector:@selector(tableView:titleForHeaderInSection:)])
             top += [self addSectionText:[source tableView:self titleForHeaderInSection:section] at:top];
         const NSInteger count = [source tableView:self numberOfRowsInSection:section];
@@ -83,7 +88,9 @@ constexpr CGFloat sectionTextSpace = 7;   // above and below
 }
 
 - (ListCell*)cellMadeFor:(NSInteger)place {
-    return [[self dataSource] tableView:self cellForRowAtIndexPath:[self pathAt:place]];
+    UITableViewCell* cell = [[self dataSource] tableView:self cellForRowAtIndexPath:[self pathAt:place]];
+    [cell setNeedsLayout]; // its texts may be other ones than before
+    return cell;
 }
 
 - (void)tapCell:(UITableViewCell*)cell {

@@ -1,4 +1,5 @@
 #import "UIKit/DisplayViews.h"
+#import "UIKit/UIImage.h"
 #import "UIKit/UITableView.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ constexpr CGFloat defaultHeight = 44;
 
 - (void)dealloc {
     [_textLabel release];
+    [_imageView release];
     [_detailTextLabel release];
     [_accessoryView release];
     [super dealloc];
@@ -32,6 +34,14 @@ constexpr CGFloat defaultHeight = 44;
 - (UILabel*)textLabel {
     if (_textLabel == nil) _textLabel = [self newLabelOfSize:17];
     return _textLabel;
+}
+
+- (UIImageView*)imageView {
+    if (_imageView == nil) {
+        _imageView = [[UIImageView alloc] initWithFrame:CGRectZero];
+        [[self contentView] addSubview:_imageView];
+    }
+    return _imageView;
 }
 
 - (UILabel*)detailTextLabel {
@@ -60,18 +70,22 @@ constexpr CGFloat defaultHeight = 44;
     const CGSize size = [self bounds].size;
     const CGSize accessory = _accessoryView != nil ? [_accessoryView bounds].size : CGSizeZero;
     [_accessoryView setCenter:CGPointMake(size.width - margin - accessory.width / 2, size.height / 2)];
-    const CGFloat width = std::max<CGFloat>(size.width - margin - accessoryWidth, 0);
+    const CGSize picture = [_imageView image] != nil ? [[_imageView image] size] : CGSizeZero;
+    [_imageView
+        setFrame:CGRectMake(margin, (size.height - picture.height) / 2, picture.width, picture.height)];
+    const CGFloat left = picture.width > 0 ? 2 * margin + picture.width : margin;
+    const CGFloat width = std::max<CGFloat>(size.width - left - accessoryWidth, 0);
     if ([[_detailTextLabel text] length] == 0) {
-        [_textLabel setFrame:CGRectMake(margin, 0, width, size.height)];
+        [_textLabel setFrame:CGRectMake(left, 0, width, size.height)];
         [_detailTextLabel setFrame:CGRectZero];
     } else if (_cellStyle == UITableViewCellStyleValue1) {
         const CGFloat detailWidth = std::min([_detailTextLabel sizeThatFits:CGSizeZero].width, width / 2);
-        [_textLabel setFrame:CGRectMake(margin, 0, width - detailWidth, size.height)];
-        [_detailTextLabel setFrame:CGRectMake(margin + width - detailWidth, 0, detailWidth, size.height)];
+        [_textLabel setFrame:CGRectMake(left, 0, width - detailWidth, size.height)];
+        [_detailTextLabel setFrame:CGRectMake(left + width - detailWidth, 0, detailWidth, size.height)];
     } else {
         const CGFloat titleHeight = size.height * 0.6;
-        [_textLabel setFrame:CGRectMake(margin, 0, width, titleHeight)];
-        [_detailTextLabel setFrame:CGRectMake(margin, titleHeight, width, size.height - titleHeight)];
+        [_textLabel setFrame:CGRectMake(left, 0, width, titleHeight)];
+        [_detailTextLabel setFrame:CGRectMake(left, titleHeight, width, size.height - titleHeight)];
     }
 }
 

@@ -19,6 +19,12 @@ typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
     UIViewAnimationOptionAllowUserInteraction = 1 << 1,
 };
 
+typedef NS_ENUM(NSInteger, UIViewContentMode) {
+    UIViewContentModeScaleToFill = 0,
+    UIViewContentModeScaleAspectFit = 1,
+    UIViewContentModeScaleAspectFill = 2,
+};
+
 // Whatever can take part in the handling of events: views, controllers and the application.
 @interface UIResponder : NSObject
 @end
@@ -32,6 +38,8 @@ typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
     UIViewController* _viewController; // not retained: it retains this view
     CALayer* _layer;
     UIColor* _backgroundColor;
+    UIColor* _tintColor;
+    UIViewContentMode _contentMode;
     NSMutableArray* _gestureRecognizers;
     NSInteger _tag;
     CGFloat _alpha;
@@ -73,6 +81,10 @@ typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
 @property (nonatomic, getter=isOpaque) BOOL opaque;
 @property (nonatomic) BOOL clipsToBounds;
 @property (nonatomic, retain) UIColor* backgroundColor;
+// The colour of symbols; the system's blue for nil.
+@property (nonatomic, retain) UIColor* tintColor;
+// How a picture of other proportions is fitted in.
+@property (nonatomic) UIViewContentMode contentMode;
 @property (nonatomic, getter=isUserInteractionEnabled) BOOL userInteractionEnabled;
 
 @property (nonatomic) UIViewAutoresizing autoresizingMask;

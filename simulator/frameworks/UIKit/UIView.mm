@@ -44,10 +44,11 @@ void simulator::layoutWindows() {
 @implementation UIView
 
 @synthesize bounds = _bounds, center = _center, tag = _tag, superview = _superview, hidden = _hidden,
-            alpha = _alpha, opaque = _opaque, backgroundColor = _backgroundColor,
-            userInteractionEnabled = _userInteractionEnabled, autoresizingMask = _autoresizingMask,
-            autoresizesSubviews = _autoresizesSubviews, gestureRecognizers = _gestureRecognizers,
-            viewController = _viewController, animationsWithoutTouches = _animationsWithoutTouches;
+            alpha = _alpha, opaque = _opaque, backgroundColor = _backgroundColor, tintColor = _tintColor,
+            contentMode = _contentMode, userInteractionEnabled = _userInteractionEnabled,
+            autoresizingMask = _autoresizingMask, autoresizesSubviews = _autoresizesSubviews,
+            gestureRecognizers = _gestureRecognizers, viewController = _viewController,
+            animationsWithoutTouches = _animationsWithoutTouches;
 
 - (instancetype)init {
     return [self initWithFrame:CGRectZero];
@@ -72,6 +73,7 @@ void simulator::layoutWindows() {
     [_subviews release];
     [_layer release];
     [_backgroundColor release];
+    [_tintColor release];
     [_gestureRecognizers release];
     [super dealloc];
 }

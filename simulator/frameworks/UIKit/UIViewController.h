@@ -8,6 +8,11 @@
     UITabBarItem;
 @protocol UIViewControllerTransitionCoordinator;
 
+typedef NS_ENUM(NSInteger, UIStatusBarStyle) {
+    UIStatusBarStyleDefault = 0, // black
+    UIStatusBarStyleLightContent = 1,
+};
+
 typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
     UIModalPresentationFullScreen = 0,
     UIModalPresentationCustom = 4,
@@ -59,6 +64,10 @@ typedef NS_ENUM(NSInteger, UIModalPresentationStyle) {
 @property (nonatomic, retain) UITabBarItem* tabBarItem;
 @property (nonatomic, readonly, copy) NSArray* toolbarItems;
 - (void)setToolbarItems:(NSArray*)items animated:(BOOL)animated;
+
+// Of the system's bar at the top, while this controller is shown; subclasses say otherwise.
+- (BOOL)prefersStatusBarHidden;
+- (UIStatusBarStyle)preferredStatusBarStyle;
 
 @property (nonatomic) UIModalPresentationStyle modalPresentationStyle;
 

@@ -120,6 +120,14 @@ template <typename Controller> Controller* enclosing(UIViewController* controlle
     _editing = editing;
 }
 
+- (BOOL)prefersStatusBarHidden {
+    return NO;
+}
+
+- (UIStatusBarStyle)preferredStatusBarStyle {
+    return UIStatusBarStyleDefault;
+}
+
 - (UINavigationController*)navigationController {
     return enclosing<UINavigationController>(self);
 }

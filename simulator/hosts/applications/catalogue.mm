@@ -2,6 +2,7 @@
 
 #import "UIKit/UIKit.h"
 
+#include "UIKit/model/Outlines.h"
 #include "device/releases.h"
 #include "hosts/applications/bundle_identifiers.h"
 #include "hosts/applications/camera/camera_app.h"
@@ -18,24 +19,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-@interface FBSystemApp : UIApplication
-@end
-
-@implementation FBSystemApp
-@end
-
-/// The application that owns the home screen; every other one is started by it.
-@interface SpringBoard : FBSystemApp
-@end
-
-@implementation SpringBoard
-
-- (void)applicationDidFinishLaunching:(UIApplication*)application {
-    simulator::showRootViewController([[[UIViewController alloc] init] autorelease]);
-}
-
-@end
-
 namespace simulator {
 
 namespace {
@@ -50,7 +33,7 @@ const struct {
     {"CameraUI", {"CAM"}},
     {"CustomDraw", {"CustomDraw"}},
     {"MobileSlideShow", {"PLPhotosApplication", "PhotosApplication"}},
-    {"SpringBoard", {"FBSystemApp", "SpringBoard"}},
+    {"SpringBoard", {"FBSystemApp", "SpringBoard", "SB"}},
     {"Preferences", {"PS"}},
     {"PreferencesApp", {"PreferencesAppController"}},
     {"Messenger", {"MN"}},
@@ -64,6 +47,7 @@ struct Entry {
     const char* titleInBar = nullptr;               // in a navigation controller, when there is a title
     void (*addVerbs)() = nullptr;                   // what a user can do in it
     bool worksInRootFolder = false;
+    HomeIcon icon = {};
 };
 
 // clang-format off
@@ -72,19 +56,26 @@ const std::vector<Entry>& entries() {
         {.bundleIdentifier = bundle::springBoard, .frameworks = {"SpringBoard"},
          .applicationClass = "SpringBoard", .worksInRootFolder = true},
         {.bundleIdentifier = bundle::photos, .frameworks = {"MobileSlideShow", "PhotosUI", "PhotosUICore"},
-         .applicationClass = "PhotosApplication", .addVerbs = photos::addVerbs},
+         .applicationClass = "PhotosApplication", .addVerbs = photos::addVerbs,
+         .icon = {"Photos", outline::photos, {1, 0.58, 0}}},
         {.bundleIdentifier = bundle::camera, .frameworks = {"CameraUI", "PhotosUI", "PhotosUICore"},
-         .firstScreen = "CAMViewfinderViewController", .addVerbs = camera::addVerbs},
+         .firstScreen = "CAMViewfinderViewController", .addVerbs = camera::addVerbs,
+         .icon = {"Camera", outline::camera, {0.45, 0.45, 0.48}}},
         {.bundleIdentifier = bundle::settings, .frameworks = {"Preferences", "PreferencesApp"},
-         .applicationClass = "PreferencesAppController", .addVerbs = settings::addVerbs},
+         .applicationClass = "PreferencesAppController", .addVerbs = settings::addVerbs,
+         .icon = {"Settings", outline::gear, {0.6, 0.6, 0.63}}},
         {.bundleIdentifier = bundle::messenger, .frameworks = {"Messenger"},
-         .firstScreen = "MNMontageAlbumListViewController", .titleInBar = "Albums", .addVerbs = messenger::addVerbs},
+         .firstScreen = "MNMontageAlbumListViewController", .titleInBar = "Albums", .addVerbs = messenger::addVerbs,
+         .icon = {"Messenger", outline::bubble, {0, 0.52, 1}}},
         {.bundleIdentifier = bundle::whatsApp, .frameworks = {"WhatsApp"},
-         .firstScreen = "WAAlbumPickerViewController", .titleInBar = "Photos", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); }},
+         .firstScreen = "WAAlbumPickerViewController", .titleInBar = "Photos", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); },
+         .icon = {"WhatsApp", outline::bubble, {0.15, 0.78, 0.35}}},
         {.bundleIdentifier = bundle::imgur, .frameworks = {"imgur"},
-         .firstScreen = "IMGAlbumPickerViewController", .titleInBar = "Upload", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); }},
+         .firstScreen = "IMGAlbumPickerViewController", .titleInBar = "Upload", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); },
+         .icon = {"imgur", outline::upload, {0.11, 0.73, 0.41}}},
         {.bundleIdentifier = bundle::plain, .frameworks = {"PhotosUI", "PhotosUICore"},
-         .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs},
+         .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs,
+         .icon = {"Picture", outline::page, {0.55, 0.35, 0.85}}},
         {.bundleIdentifier = bundle::jolly, .frameworks = {"PhotosUI", "PhotosUICore"},
          .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs},
     };
@@ -126,6 +117,16 @@ const Entry& entryFor(std::string_view bundleIdentifier) {
 }();
 
 } // namespace
+
+std::vector<HomeIcon> homeIcons() {
+    std::vector<HomeIcon> icons;
+    for (const Entry& entry : entries()) {
+        if (entry.icon.name.empty()) continue;
+        icons.push_back(entry.icon);
+        icons.back().bundleIdentifier = entry.bundleIdentifier;
+    }
+    return icons;
+}
 
 void setHasFramework(std::string_view bundleIdentifier, std::string_view framework, bool has) {
     const Entry& entry = entryFor(bundleIdentifier);

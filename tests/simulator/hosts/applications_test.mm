@@ -40,7 +40,7 @@ const json listPicker = {{"do", "listPicker"}};
 
 INSTANTIATE_TEST_SUITE_P(
     All, Applications,
-    testing::Values(ApplicationCase{host::springBoard, "UIViewController", ready, 10},
+    testing::Values(ApplicationCase{host::springBoard, "SBIconView", ready, 10},
                     ApplicationCase{host::photos,
                                     "PUAlbumListViewController",
                                     {{"do", "openAlbum"}, {"title", "Pets"}},

@@ -1,8 +1,11 @@
 #include "UIKit/model/Png.h"
 
+#include "UIKit/model/Scenery.h"
+
 #include <png.h>
 
-#include <random>
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 namespace simulator {
@@ -32,22 +35,32 @@ std::optional<PngSize> sizeOfPng(std::span<const std::uint8_t> file) {
     return isComplete ? std::optional(size) : std::nullopt;
 }
 
-// A gradient from one random colour at the top left to another at the bottom right.
+namespace {
+
+Rgb colorAt(const Scenery& scenery, double x, double y, double aspect) {
+    for (const Scenery::Hill& hill : {scenery.hills[1], scenery.hills[0]})
+        if (y >= hill.topAt(x)) return hill.color;
+    const double acrossSun = (x - scenery.sunX) * aspect;
+    const double downSun = y - scenery.sunY;
+    if (acrossSun * acrossSun + downSun * downSun < scenery.sunRadius * scenery.sunRadius) return scenery.sun;
+    Rgb sky;
+    for (std::size_t channel = 0; channel < sky.size(); ++channel)
+        sky[channel] =
+            static_cast<std::uint8_t>(scenery.skyTop[channel] * (1 - y) + scenery.skyBottom[channel] * y);
+    return sky;
+}
+
+} // namespace
+
 std::vector<std::uint8_t> generatedPng(PngSize size, std::uint64_t seed) {
-    const std::uint64_t corners = std::mt19937_64(seed)();
+    const Scenery scenery = sceneryOf(seed);
+    const double aspect = static_cast<double>(size.width) / size.height;
     std::vector<std::uint8_t> pixels;
     pixels.reserve(std::size_t{3} * size.width * size.height);
-    for (std::uint32_t y = 0; y < size.height; ++y) {
-        for (std::uint32_t x = 0; x < size.width; ++x) {
-            const double share =
-                (static_cast<double>(x) / size.width + static_cast<double>(y) / size.height) / 2;
-            for (unsigned channel = 0; channel < 3; ++channel) {
-                const auto from = static_cast<double>((corners >> (8 * channel)) & 0xFF);
-                const auto to = static_cast<double>((corners >> (24 + 8 * channel)) & 0xFF);
-                pixels.push_back(static_cast<std::uint8_t>(from + (to - from) * share));
-            }
-        }
-    }
+    for (std::uint32_t y = 0; y < size.height; ++y)
+        for (std::uint32_t x = 0; x < size.width; ++x)
+            std::ranges::copy(colorAt(scenery, (x + 0.5) / size.width, (y + 0.5) / size.height, aspect),
+                              std::back_inserter(pixels));
     PngImage image;
     image.width = size.width;
     image.height = size.height;

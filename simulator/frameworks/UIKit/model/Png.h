@@ -17,7 +17,7 @@ struct PngSize {
 // Nothing for data that is no PNG picture, is damaged or cut short, or has a side of more than 16384 pixels.
 std::optional<PngSize> sizeOfPng(std::span<const std::uint8_t> file);
 
-// The same pixels for the same arguments, others for another seed.
+// The scenery of that number: the same pixels for the same arguments, others for another seed.
 std::vector<std::uint8_t> generatedPng(PngSize size, std::uint64_t seed);
 
 } // namespace simulator

@@ -269,6 +269,9 @@ void addVerbs() {
         tap(inAlbumCell(request));
     });
     registerVerb("openMoments", [] { openMoments(); });
+    registerVerb("openPhoto", [](const json& request) {
+        openPhoto(onScreen<PUPhotosGridViewController>(), request.at("place"));
+    });
     registerVerb("selectPhotos", [](const json& request) {
         selectPhotos(onScreen<PUPhotosGridViewController>(), request.at("places"));
     });

@@ -11,8 +11,12 @@
 
 - (void)viewDidLoad {
     [super viewDidLoad];
-    UIImage* picture = [UIImage imageWithPixelSize:CGSizeMake(160, 120) seed:7];
-    [[self view] addSubview:[[[UIImageView alloc] initWithImage:picture] autorelease]];
+    UIImage* picture = [UIImage imageWithPixelSize:CGSizeMake(160, 120) seed:51];
+    UIImageView* view = [[[UIImageView alloc] initWithFrame:[[self view] bounds]] autorelease];
+    [view setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
+    [view setContentMode:UIViewContentModeScaleAspectFit];
+    [view setImage:picture];
+    [[self view] addSubview:view];
     [[self navigationItem] setRightBarButtonItems:@[
         simulator::barButton(@"Share", self, @selector(share:)),
         simulator::barButton(@"Pick", self, @selector(pickPhoto:))

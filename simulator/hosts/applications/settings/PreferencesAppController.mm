@@ -15,6 +15,10 @@ PSSpecifier* rowOfEntry(NSDictionary* entry) {
     }
     PSSpecifier* row = [PSSpecifier specifierWithDictionary:entry target:nil];
     [row setProperty:path forKey:PSLazilyLoadedBundleKey];
+    if (NSString* icon = [entry objectForKey:@"icon"]) {
+        NSString* file = [path stringByAppendingPathComponent:icon];
+        [row setProperty:[[[UIImage alloc] initWithContentsOfFile:file] autorelease] forKey:PSIconImageKey];
+    }
     return row;
 }
 
