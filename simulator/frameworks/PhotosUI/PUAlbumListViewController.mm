@@ -95,7 +95,11 @@ NSUInteger editCapabilitiesOf(PHCollection* collection) {
     [_mainCollectionView setDataSource:self];
     [_mainCollectionView setDelegate:self];
     [[self view] addSubview:_mainCollectionView];
-    if (_sessionInfo != nil) [self _addPickerBanner];
+    if (_sessionInfo != nil)
+        [self _addPickerBanner];
+    else
+        [[self navigationItem]
+            setLeftBarButtonItem:symbolButton(simulator::outline::plus, @"+", nil, nullptr)];
     [self _updateLayout];
 }
 
@@ -161,8 +165,6 @@ NSUInteger editCapabilitiesOf(PHCollection* collection) {
     UIBarButtonItem* search =
         [self disallowsSearch] ? nil : symbolButton(simulator::outline::search, @"Search", nil, nullptr);
     [item setRightBarButtonItems:[NSArray arrayWithObjects:edit, search, nil]];
-    [item setLeftBarButtonItem:symbolButton(simulator::outline::plus, @"+", nil, nullptr)];
-    [[[self navigationController] navigationBar] setNeedsLayout];
 }
 
 - (BOOL)showPeople {
