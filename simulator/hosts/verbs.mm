@@ -45,6 +45,13 @@ json calls() {
     return {{"calls", list}};
 }
 
+json touched() {
+    json screens = json::array();
+    for (const TouchedScreen& each : takeTouchedScreens())
+        screens.push_back({{"svg", each.svg}, {"x", each.point.x}, {"y", each.point.y}});
+    return {{"screens", screens}};
+}
+
 // The picture and the places to touch on it, rounded to whole points.
 json screen() {
     const Picture picture = screenPicture();
@@ -129,6 +136,7 @@ __attribute__((constructor)) void registerVerbs() {
         typeText(request.value("field", std::size_t{0}), text(request, "text"));
     });
     registerVerb("screen", screen);
+    registerVerb("touchedScreens", touched);
     registerVerb("touch", touch);
     registerVerb("scroll", scroll);
     registerVerb("followScreen", followScreen);

@@ -8,7 +8,6 @@ namespace {
 using nlohmann::json;
 
 constexpr int albumImage = 77;
-constexpr const char* albumFile = "/var/mobile/Library/rollkeeper/album.tct";
 
 void openChooser(Stage& stage, Screen& camera) {
     camera.tap(albumImage);
@@ -23,7 +22,7 @@ void photosIntoNewAlbum(Stage& stage, HostProcess& host) {
     camera.type("Garden");
     camera.answer("OK");
     stage.check("the new album \"Garden\" is the Camera's, and its file says so",
-                [&] { return camera.shows("Garden") && stage.fileHolds(albumFile, {"Garden"}); });
+                [&] { return camera.shows("Garden") && stage.fileHolds(cameraAlbumFile, {"Garden"}); });
     stage.tell("three photos are taken, each of which moves a moment later");
     for (const char* expected : {"11", "11 12", "11 12 13"}) {
         host.call("takePhoto");
@@ -50,7 +49,7 @@ void startAgain(Stage& stage, HostProcess& host) {
     openChooser(stage, camera);
     camera.answer("Family");
     stage.check("the Camera's album is \"Family\"", [&] { return camera.shows("Family"); });
-    stage.check("and the file says so", [&] { return stage.fileHolds(albumFile, {"Family"}); });
+    stage.check("and the file says so", [&] { return stage.fileHolds(cameraAlbumFile, {"Family"}); });
     stage.check("started again it has forgotten: \"Camera Roll\"", [&] { return startsWith("Camera Roll"); });
     stage.writePreferences({{"rememberDefault", true}});
     stage.check("with \"rememberDefault\" it starts with \"Family\"", [&] { return startsWith("Family"); });

@@ -1,7 +1,5 @@
 #include "tour/scenarios.h"
 
-#include <cstdio>
-
 namespace simulator::tour {
 
 namespace {
@@ -28,20 +26,18 @@ std::string photosShown(const json& list, const char* title) {
     return "-";
 }
 
-void printRow(const std::string& name, const std::string& locked, const std::string& off,
-              const std::string& moved) {
-    std::printf("    %-20s %14s %14s %14s\n", name.c_str(), locked.c_str(), off.c_str(), moved.c_str());
-    std::fflush(stdout);
-}
-
 void compareOn(Stage& stage, Release release) {
     stage.device().changeConditions([&](Conditions& conditions) { conditions.release = release; });
     stage.tell("iOS " + std::string(releaseName(release)) + ":");
-    printRow("photos shown of", "locked album", "switched off", "moved photos");
+    stage.tellRow({"photos shown of", "locked album", "switched off", "moved photos"});
     for (const auto& reader : readers) {
-        const json list = stage.application(reader.bundleIdentifier).call(reader.verb);
-        printRow(reader.name, photosShown(list, "Holidays"), photosShown(list, "Work"),
-                 photosShown(list, "Family"));
+        HostProcess& host = stage.application(reader.bundleIdentifier);
+        const json list = host.call(reader.verb);
+        // The user's albums are the last.
+        host.call({{"do", "scroll"}, {"x", 100}, {"y", 300}, {"down", 10000}});
+        stage.tellRow({reader.name, photosShown(list, "Holidays"), photosShown(list, "Work"),
+                       photosShown(list, "Family")},
+                      &host);
         stage.stop(reader.bundleIdentifier);
     }
 }

@@ -10,7 +10,6 @@ namespace {
 constexpr int lockOverlay = 200;
 constexpr int moveButton = 213;
 constexpr int lockButton = 214;
-constexpr const char* passwordFile = "/var/mobile/Library/rollkeeper/settings.tct";
 constexpr const char* albumContents = "PUPhotosAlbumViewController";
 
 // Photos, whose clock stands still, so that no banner goes before it has been looked at.

@@ -16,9 +16,9 @@ constexpr auto patience = std::chrono::seconds(20);
 
 } // namespace
 
-Stage::Stage(const Programs& programs, const std::filesystem::path& folder)
+Stage::Stage(const Programs& programs, const std::filesystem::path& folder, StoryChapter* chapter)
     : m_programs(programs), m_libraryFile(programs.library.string()), m_device(Device::create(folder)),
-      m_photos(PhotoLibrary::open(m_device)) {
+      m_photos(PhotoLibrary::open(m_device)), m_chronicle(chapter) {
     addSmallSample(*m_photos);
     std::filesystem::copy(m_programs.deviceFiles, m_device.root(), std::filesystem::copy_options::recursive);
 }
@@ -33,7 +33,9 @@ HostProcess& Stage::application(const std::string& bundleIdentifier) {
     options.library = m_programs.library;
     options.emulator = m_programs.emulator;
     options.timeout = 60;
-    return m_running.emplace(bundleIdentifier, HostProcess(std::move(options))).first->second;
+    HostProcess& host = m_running.emplace(bundleIdentifier, HostProcess(std::move(options))).first->second;
+    m_chronicle.begin(bundleIdentifier, host);
+    return host;
 }
 
 void Stage::stop(const std::string& bundleIdentifier) {
@@ -68,6 +70,23 @@ bool Stage::fileHolds(const char* path, const nlohmann::json& array) const {
 void Stage::tell(const std::string& text) {
     std::printf("    %s\n", text.c_str());
     std::fflush(stdout);
+    note(StoryStep::Kind::told, text);
+}
+
+void Stage::tellRow(const std::vector<std::string>& cells, HostProcess* shown) {
+    std::printf("    %-20s", cells.front().c_str());
+    for (std::size_t column = 1; column < cells.size(); ++column)
+        std::printf(" %14s", cells[column].c_str());
+    std::printf("\n");
+    std::fflush(stdout);
+    m_chronicle.addRow(cells);
+    if (shown != nullptr) m_chronicle.addScreen(cells.front(), *shown);
+}
+
+void Stage::tellFailure(const std::string& text) { note(StoryStep::Kind::failed, text); }
+
+void Stage::note(StoryStep::Kind kind, const std::string& text) {
+    m_chronicle.add(kind, text, m_running, shelves());
 }
 
 void Stage::check(const std::string& text, const std::function<bool()>& condition) {
@@ -79,17 +98,33 @@ void Stage::check(const std::string& text, const std::function<bool()>& conditio
     }
     std::printf("  + %s\n", text.c_str());
     std::fflush(stdout);
+    note(StoryStep::Kind::seen, text);
+}
+
+std::string Stage::numberOf(const Asset& asset) {
+    const Assets all = m_photos->assets({.includeHidden = true});
+    return std::to_string(std::ranges::find(all, asset.identifier, &Asset::identifier) - all.begin() + 1);
 }
 
 std::string Stage::numbersOf(const Assets& assets) {
-    const Assets all = m_photos->assets({.includeHidden = true});
     std::string numbers;
-    for (const Asset& asset : assets) {
-        const auto place = std::ranges::find(all, asset.identifier, &Asset::identifier);
-        if (!numbers.empty()) numbers += ' ';
-        numbers += std::to_string(place - all.begin() + 1);
-    }
+    for (const Asset& asset : assets)
+        numbers += (numbers.empty() ? "" : " ") + numberOf(asset);
     return numbers.empty() ? "nothing" : numbers;
+}
+
+std::vector<StoryShelf> Stage::shelves() {
+    const auto shelf = [this](const std::string& title, const Assets& assets) {
+        StoryShelf filled = {.title = title, .photos = {}};
+        for (const Asset& asset : assets)
+            filled.photos.push_back({numberOf(asset), asset.hidden, static_cast<std::uint64_t>(asset.seed),
+                                     m_photos->storedPicture(asset.identifier)});
+        return filled;
+    };
+    std::vector<StoryShelf> all = {shelf("Camera Roll", m_photos->assets({.includeHidden = true}))};
+    for (const Collection& album : m_photos->collections(CollectionKind::album))
+        all.push_back(shelf(album.title.value_or(""), m_photos->assetsIn(album, {.includeHidden = true})));
+    return all;
 }
 
 std::string Stage::library() {

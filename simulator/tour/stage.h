@@ -5,12 +5,12 @@
 #include "device/device.h"
 #include "hosts/client.h"
 #include "photolibrary/library.h"
+#include "tour/chronicle.h"
 
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -19,6 +19,8 @@
 namespace simulator::tour {
 
 inline constexpr const char* lockedAlbumsFile = "/var/mobile/Library/rollkeeper/lockedAlbums.plist";
+inline constexpr const char* cameraAlbumFile = "/var/mobile/Library/rollkeeper/album.tct";
+inline constexpr const char* passwordFile = "/var/mobile/Library/rollkeeper/settings.tct";
 
 // Something did not happen as it should.
 struct TourFailure : std::runtime_error {
@@ -35,8 +37,8 @@ struct Programs {
 class Stage {
   public:
     // A new device in `folder` with the small sample library and what the package installs. Everything on it
-    // ends with the stage.
-    Stage(const Programs& programs, const std::filesystem::path& folder);
+    // ends with the stage. What happens is written into the chapter, unless there is none.
+    Stage(const Programs& programs, const std::filesystem::path& folder, StoryChapter* chapter);
 
     const Device& device() const { return m_device; }
     PhotoLibrary& photos() { return *m_photos; }
@@ -58,6 +60,10 @@ class Stage {
     void tell(const std::string& text);
     // Tells the text when the condition holds, at once or within a few seconds; throws TourFailure otherwise.
     void check(const std::string& text, const std::function<bool()>& condition);
+    // A row of the table below the last line; `shown` is the application that it is about, or nullptr.
+    void tellRow(const std::vector<std::string>& cells, HostProcess* shown = nullptr);
+    // Writes down why the scenario goes no further.
+    void tellFailure(const std::string& text);
 
     // Titles of the photos that the Camera Roll shows, as numbers in the sample, oldest first; photos taken
     // since then continue the count.
@@ -67,12 +73,16 @@ class Stage {
   private:
     std::string library(); // what is where, for a failure's message
     std::string numbersOf(const Assets& assets);
+    std::string numberOf(const Asset& asset);
+    std::vector<StoryShelf> shelves();
+    void note(StoryStep::Kind kind, const std::string& text);
 
     Programs m_programs;
     std::string m_libraryFile;
     Device m_device;
     std::unique_ptr<PhotoLibrary> m_photos;
-    std::map<std::string, HostProcess> m_running;
+    Hosts m_running;
+    Chronicle m_chronicle;
 };
 
 // A part of the tour, on a device of its own.

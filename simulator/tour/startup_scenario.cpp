@@ -7,8 +7,6 @@ namespace {
 
 using nlohmann::json;
 
-constexpr const char* albumFile = "/var/mobile/Library/rollkeeper/album.tct";
-
 void loadInto(Stage& stage, const char* bundleIdentifier) {
     std::size_t installed = 0;
     std::size_t absent = 0;  // a class or method that this release or application lacks
@@ -28,7 +26,7 @@ void loadInto(Stage& stage, const char* bundleIdentifier) {
 void loadIntoEveryHost(Stage& stage) {
     stage.tell("a device on iOS 10.3 with ten photos; its Camera is to remember the album \"Family\"");
     stage.writePreferences({{"rememberDefault", true}});
-    stage.device().writePropertyList(albumFile, json::array({"Family"}));
+    stage.device().writePropertyList(cameraAlbumFile, json::array({"Family"}));
 
     for (const char* each : {bundle::springBoard, bundle::photos, bundle::camera, bundle::settings,
                              bundle::messenger, bundle::whatsApp, bundle::imgur, bundle::plain})
@@ -54,8 +52,8 @@ void loadIntoEveryHost(Stage& stage) {
                {"centre", "com.nrv.rollkeeper"},
                {"name", "savearray"},
                {"unlock", true},
-               {"userInfo", {{"id", bundle::plain}, {"array", {"Pets"}}, {"path", albumFile}}}});
-    stage.check("the file holds the new array", [&] { return stage.fileHolds(albumFile, {"Pets"}); });
+               {"userInfo", {{"id", bundle::plain}, {"array", {"Pets"}}, {"path", cameraAlbumFile}}}});
+    stage.check("the file holds the new array", [&] { return stage.fileHolds(cameraAlbumFile, {"Pets"}); });
     stage.writePreferences({{"rememberDefault", true}});
     stage.check("the Camera, started again, reads it and shows \"Pets\"",
                 [&] { return Screen(stage.restart(bundle::camera)).shows("Pets"); });

@@ -38,6 +38,18 @@ std::string screenshotAsSvg();
 // The spots that nothing else lies on.
 std::vector<Spot> reachableSpots(const Picture& picture);
 
+// The screen as it was when a finger came down, and where.
+struct TouchedScreen {
+    std::string svg;
+    CGPoint point;
+};
+// Those since the last call. They are kept from the first call on; before, none are.
+std::vector<TouchedScreen> takeTouchedScreens();
+// For touches that are acted upon without being delivered: at the middle of the view, where it is on the
+// screen, or of the spot with that label.
+void noteTouch(UIView* view);
+void noteTouch(std::string_view label);
+
 // The controller on top of everything that is presented; the root controller when nothing is.
 UIViewController* frontController();
 // The alert that waits for an answer, nil when there is none.

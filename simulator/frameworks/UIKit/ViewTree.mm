@@ -11,12 +11,20 @@
 #include <algorithm>
 #include <ranges>
 #include <stdexcept>
+#include <utility>
 
 namespace simulator {
 
 namespace {
 
 CGPoint middleOf(CGRect rect) { return {CGRectGetMidX(rect), CGRectGetMidY(rect)}; }
+
+std::vector<TouchedScreen> touchedScreens;
+bool keepsTouchedScreens = false;
+
+void noteTouchAt(CGPoint point) {
+    if (keepsTouchedScreens) touchedScreens.push_back({screenshotAsSvg(), point});
+}
 
 UIView* viewAt(CGPoint point) {
     return [[[[[UIApplication sharedApplication] keyWindow] hitTest:point withEvent:nil] retain] autorelease];
@@ -25,6 +33,7 @@ UIView* viewAt(CGPoint point) {
 UIView* touchAt(CGPoint point, Touch touch) {
     layoutWindows();
     touch.location = point;
+    noteTouchAt(point);
     touch.hitView = viewAt(point);
     if (touch.hitView == nil) return nil;
     deliver(touch);
@@ -73,6 +82,22 @@ NSArray* barButtonItems() {
 
 } // namespace
 
+std::vector<TouchedScreen> takeTouchedScreens() {
+    keepsTouchedScreens = true;
+    return std::exchange(touchedScreens, {});
+}
+
+void noteTouch(UIView* view) {
+    if (keepsTouchedScreens && [view window] != nil)
+        noteTouchAt([view convertPoint:middleOf([view bounds]) toView:nil]);
+}
+
+void noteTouch(std::string_view label) {
+    if (!keepsTouchedScreens) return;
+    for (const Spot& spot : screenPicture().spots | std::views::reverse)
+        if (spot.label == label) return noteTouchAt(middleOf(spot.rect));
+}
+
 UIViewController* frontController() {
     UIViewController* controller = [[[UIApplication sharedApplication] keyWindow] rootViewController];
     while (UIViewController* presented = [controller presentedViewController])
@@ -92,6 +117,7 @@ UIView* hardPress(UIView* view) { return touchAtMiddle(view, Touch{.gesture = Ge
 
 void tapAt(CGPoint point, unsigned taps) {
     if (const Picture picture = screenPicture(); const Spot* drawn = drawnSpotAt(point, picture)) {
+        noteTouchAt(point);
         drawn->act();
         return layoutWindows();
     }
@@ -141,6 +167,7 @@ void tapBarButton(std::string_view title) {
     for (UIBarButtonItem* item in barButtonItems()) {
         if (text([item title]) != title) continue;
         const Retained<UIBarButtonItem*> alive(item);
+        noteTouch(title);
         sendAction([item target], [item action], item);
         return layoutWindows();
     }
@@ -158,6 +185,7 @@ void tapAlertAction(std::string_view title) {
     UIAlertController* alert = frontAlert();
     for (UIAlertAction* action in [alert actions]) {
         if (text([action title]) != title || ![action isEnabled]) continue;
+        noteTouch(title);
         [alert tapAction:action];
         return layoutWindows();
     }

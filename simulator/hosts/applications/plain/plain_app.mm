@@ -56,6 +56,7 @@ void tapOnFirstScreen(const char* button) {
 void saveImage() {
     waitForNewPhoto([] {
         tapOnFirstScreen("Share");
+        noteTouch("Save Image");
         if (![onScreen<UIActivityViewController>() chooseActivityWithTitle:@"Save Image"])
             throw std::runtime_error("the share sheet does not offer to save the image");
     });

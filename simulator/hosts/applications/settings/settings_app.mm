@@ -1,5 +1,7 @@
 #include "hosts/applications/settings/settings_app.h"
 
+#import "UIKit/ViewTree.h"
+
 #include "hosts/applications/common/screen.h"
 #include "hosts/host.h"
 
@@ -66,13 +68,17 @@ void setControl(const std::string& label, bool on) {
     if (![cell isKindOfClass:[PSSwitchTableCell class]])
         throw std::runtime_error("the row \"" + label + "\" has no switch");
     UISwitch* control = [static_cast<PSSwitchTableCell*>(cell) control];
+    noteTouch(control);
     [control setOn:on ? YES : NO animated:NO];
     [control sendActionsForControlEvents:UIControlEventValueChanged];
 }
 
 void tapRow(const std::string& label) {
     PSListController* list = pane();
-    [list tableView:[list table] didSelectRowAtIndexPath:pathOfRow(list, label)];
+    NSIndexPath* path = pathOfRow(list, label);
+    layOutScreen();
+    noteTouch([list tableView:[list table] cellForRowAtIndexPath:path]);
+    [list tableView:[list table] didSelectRowAtIndexPath:path];
     layOutScreen();
 }
 
