@@ -1,10 +1,9 @@
 #include "service_probe.h"
 
-#include "platform/app_support.h"
 #include "state/paths.h"
 #include "state/save_array.h"
 
-// The pane is to load, and to tell, where that library is missing.
+// Weak here alone: the pane is to load, and to tell, where that library is missing.
 extern "C" [[gnu::weak]] void rocketbootstrap_distributedmessagingcenter_apply(rollkeeper::id center);
 
 namespace rollkeeper::pane::serviceProbe {
@@ -12,7 +11,7 @@ namespace rollkeeper::pane::serviceProbe {
 namespace {
 
 bool canAsk() {
-    return classNamed<CPDistributedMessagingCenter::className>() &&
+    return classNamed<"CPDistributedMessagingCenter">() &&
            &rocketbootstrap_distributedmessagingcenter_apply != nullptr;
 }
 

@@ -19,6 +19,9 @@ fail() {
 # The package names of a list file, without its comments.
 packagesOf() { grep -hv '^#' "$@"; }
 
+# In seconds, as SOURCE_DATE_EPOCH, which goes before it.
+dateOfLastChange() { echo "${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CHANGELOG.md)}"; }
+
 requirePreset() {
     local known
     for known in "${presets[@]}"; do [[ $1 == "$known" ]] && return; done
