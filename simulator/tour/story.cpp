@@ -121,16 +121,18 @@ std::string library(Gallery& gallery, const std::vector<StoryShelf>& shelves) {
 }
 
 std::string table(const std::vector<std::vector<std::string>>& rows) {
-    std::string out = "<table>";
+    std::ostringstream out;
+    out << "<table>";
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        out += "<tr>";
+        out << "<tr>";
         for (std::size_t column = 0; column < rows[row].size(); ++column) {
-            const std::string tag = row == 0 || column == 0 ? "th" : "td";
-            out += "<" + tag + ">" + escapedForXml(rows[row][column]) + "</" + tag + ">";
+            const char* tag = row == 0 || column == 0 ? "th" : "td";
+            out << '<' << tag << '>' << escapedForXml(rows[row][column]) << "</" << tag << '>';
         }
-        out += "</tr>";
+        out << "</tr>";
     }
-    return out + "</table>\n";
+    out << "</table>\n";
+    return out.str();
 }
 
 bool hasPictures(const StoryStep& step) { return !step.screens.empty() || !step.library.empty(); }
@@ -192,23 +194,22 @@ std::string summary(const std::vector<StoryChapter>& chapters) {
 
 std::string storyAsHtml(const std::vector<StoryChapter>& chapters, const std::string& library) {
     Gallery gallery;
-    std::string contents, sections;
+    std::ostringstream contents, sections;
     for (std::size_t index = 0; index < chapters.size(); ++index) {
         const std::string name = "scenario" + std::to_string(index + 1);
         const std::string title = escapedForXml(chapters[index].title);
-        contents += "<li><a href=\"#" + name + "\">" + title + "</a></li>\n";
-        sections += "<section id=\"" + name + "\"><h2>" + title + "</h2>\n" +
-                    strip(gallery, chapters[index]) + "</section>\n";
+        contents << "<li><a href=\"#" << name << "\">" << title << "</a></li>\n";
+        sections << "<section id=\"" << name << "\"><h2>" << title << "</h2>\n"
+                 << strip(gallery, chapters[index]) << "</section>\n";
     }
     return "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><meta name=\"viewport\" "
            "content=\"width=device-width, initial-scale=1\">\n<title>Rollkeeper at work</title>\n<style>" +
            std::string(storyStyle) + "</style></head>\n<body>" + gallery.definitions() +
            "<header><h1>Rollkeeper at work</h1>\n<p class=\"soft\">" + escapedForXml(library) +
            " on a simulated device. A ring marks where a finger touches; beside the screens stands the photo "
-           "library "
-           "whenever it changes, with hidden photos pale.</p>\n" +
-           summary(chapters) + "<nav aria-label=\"Scenarios\"><ol>\n" + contents +
-           "</ol></nav></header>\n<main>\n" + sections + "</main></body></html>\n";
+           "library whenever it changes, with hidden photos pale.</p>\n" +
+           summary(chapters) + "<nav aria-label=\"Scenarios\"><ol>\n" + contents.str() +
+           "</ol></nav></header>\n<main>\n" + sections.str() + "</main></body></html>\n";
 }
 
 } // namespace simulator::tour

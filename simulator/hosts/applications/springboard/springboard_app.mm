@@ -68,8 +68,9 @@ SBIconView* makeIcon(const simulator::HomeIcon& icon) {
     NSUInteger place = 0;
     for (UIView* icon in [[self view] subviews]) {
         if (![icon isKindOfClass:[SBIconView class]]) continue;
+        const NSUInteger fullRows = place / columns;
         const auto column = static_cast<CGFloat>(place % columns);
-        const auto row = static_cast<CGFloat>(place / columns);
+        const auto row = static_cast<CGFloat>(fullRows);
         [icon setCenter:CGPointMake(step * (column + 0.5), top + rowHeight * row + rowHeight / 2)];
         ++place;
     }
