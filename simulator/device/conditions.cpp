@@ -30,6 +30,13 @@ static void from_json(const json& object, Release& release) {
 
 // clang-format off
 NLOHMANN_JSON_SERIALIZE_ENUM(Idiom, {{Idiom::phone, "phone"}, {Idiom::pad, "pad"}})
+NLOHMANN_JSON_SERIALIZE_ENUM(Biometry, {{Biometry::none, "none"}, {Biometry::touchId, "touchId"}, {Biometry::faceId, "faceId"}})
+NLOHMANN_JSON_SERIALIZE_ENUM(CaptureDelivery, {
+    {CaptureDelivery::dispatchQueue, "dispatchQueue"}, {CaptureDelivery::runLoopThread, "runLoopThread"},
+    {CaptureDelivery::mainThread, "mainThread"}})
+NLOHMANN_JSON_SERIALIZE_ENUM(PhotoAccess, {
+    {PhotoAccess::ifAsked, "ifAsked"}, {PhotoAccess::notDetermined, "notDetermined"},
+    {PhotoAccess::restricted, "restricted"}, {PhotoAccess::denied, "denied"}, {PhotoAccess::authorized, "authorized"}})
 NLOHMANN_JSON_SERIALIZE_ENUM(BiometricOutcome, {
     {BiometricOutcome::success, "success"}, {BiometricOutcome::failed, "failed"},
     {BiometricOutcome::userCancel, "userCancel"}, {BiometricOutcome::userFallback, "userFallback"},
@@ -38,7 +45,8 @@ NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Screen, width, height, scale)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Faults, diskFull, missing, unreadable, refuseLibraryChanges)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(HookingStyle, slotWrittenFirst, inheritedResolvedLate, callsNoted)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Conditions, release, coreFoundationVersion, screen, idiom,
-                                                biometricOutcome, hapticEngine, albumDeletionTime, manualClock, faults, hooking)
+                                                biometry, biometricOutcome, hapticEngine, captureDelivery, photoAccess,
+                                                albumDeletionTime, manualClock, faults, hooking)
 // clang-format on
 
 namespace {

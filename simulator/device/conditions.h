@@ -1,5 +1,6 @@
-// The circumstances of a device that a test or a person may set: release, screen, biometry, faults, hooking
-// style. They live as JSON in the device folder, so that every process of the device sees a change at once.
+// The circumstances of a device that a test or a person may set: release, screen, biometry, threads, faults,
+// hooking style. They live as JSON in the device folder, so that every process of the device sees a change at
+// once.
 #pragma once
 
 #include "device/releases.h"
@@ -16,8 +17,17 @@ namespace simulator {
 
 enum class Idiom { phone, pad };
 
-// How the system's dialog for Touch ID ends.
+enum class Biometry { none, touchId, faceId };
+
+// How the system's dialog for Touch ID or Face ID ends.
 enum class BiometricOutcome { success, failed, userCancel, userFallback, notAvailable, refusedWithoutError };
+
+// On which thread captures end. A thread of a dispatch queue runs no run loop.
+enum class CaptureDelivery { dispatchQueue, runLoopThread, mainThread };
+
+// What an application may do with the photo library. Whoever asks is authorized, unless said otherwise; from
+// iOS 10 on an application can ask only with its usage description.
+enum class PhotoAccess { ifAsked, notDetermined, restricted, denied, authorized };
 
 struct Screen {
     double width = 375; // points, portrait
@@ -51,8 +61,11 @@ struct Conditions {
     std::optional<double> coreFoundationVersion; // the release's own when not set
     Screen screen;
     Idiom idiom = Idiom::phone;
+    Biometry biometry = Biometry::touchId;
     BiometricOutcome biometricOutcome = BiometricOutcome::success;
     bool hapticEngine = true;
+    CaptureDelivery captureDelivery = CaptureDelivery::dispatchQueue;
+    PhotoAccess photoAccess = PhotoAccess::ifAsked;
     double albumDeletionTime = 0; // seconds until the photo library has deleted an album
     bool manualClock = false;     // timers wait for Clock::advance instead of real time
     Faults faults;

@@ -39,7 +39,7 @@ std::string contentsOf(const std::filesystem::path& file) {
 Device Device::create(const std::filesystem::path& folder) {
     Device device(std::filesystem::absolute(folder).lexically_normal());
     for (const char* path : {"var/mobile/Library/Preferences", "var/mobile/Media", "var/tmp", "private",
-                             "Library", "System/Library", "Applications"})
+                             "Library", "System/Library/Frameworks/PhotosUI.framework", "Applications"})
         std::filesystem::create_directories(device.root() / path);
     std::filesystem::create_directories(device.runFolder());
     if (!std::filesystem::exists(device.root() / "private/var"))

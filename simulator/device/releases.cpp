@@ -147,4 +147,10 @@ void setLoadedFrameworks(std::vector<std::string> loaded) {
     known.loaded.emplace(loaded.begin(), loaded.end());
 }
 
+void addLoadedFramework(std::string framework) {
+    Frameworks& known = frameworks();
+    const std::lock_guard guard(known.lock);
+    if (known.loaded) known.loaded->insert(std::move(framework));
+}
+
 } // namespace simulator

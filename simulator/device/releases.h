@@ -49,5 +49,7 @@ bool classIsPresent(std::string_view name);
 // frameworks.
 void registerFramework(std::string_view framework, const std::vector<std::string>& prefixes);
 void setLoadedFrameworks(std::vector<std::string> frameworks);
+// Loads one more into the running host; a framework that it has stays as it is.
+void addLoadedFramework(std::string framework);
 
 } // namespace simulator

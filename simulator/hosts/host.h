@@ -3,6 +3,7 @@
 // in its own.
 #pragma once
 
+#include "device/process.h"
 #include "frameworks/Hooking/InstallationLog.h"
 
 #include <nlohmann/json.hpp>
@@ -11,6 +12,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -23,6 +25,7 @@ struct Application {
     std::function<void()> start; // the application's own main: makes its objects, shows its first screen
     std::vector<std::string> frameworks; // what it has loaded, see registerFramework(); empty: everything
     bool worksInRootFolder = false;      // its working directory is the device's root
+    std::set<std::string, std::less<>> usageDescriptions = {photoUsage}; // in its Info.plist
 };
 
 // Registers an application by bundle identifier; a second registration replaces the first. Bundle identifiers

@@ -49,6 +49,7 @@ Host::Host(const HostOptions& options) {
         applyConditions();
         const std::filesystem::path library = absoluteOrNone(options.library);
         const Application application = applicationFor(options.bundleIdentifier);
+        setUsageDescriptions(application.usageDescriptions);
         if (!application.frameworks.empty()) setLoadedFrameworks(application.frameworks);
         if (application.worksInRootFolder) std::filesystem::current_path(mountedDevice() / "root");
         keepMainRunLoopAlive();

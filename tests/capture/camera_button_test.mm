@@ -55,7 +55,7 @@ TEST_F(CameraButton, moves_aside_and_is_measured_narrowly_beside_a_draw_button) 
     library().addAlbum(longTitle);
     openCamera(longTitle);
     EXPECT_EQ(labelMeasuredIn({380, 20}), longTitle);
-    loadFramework("CustomDraw");
+    addLoadedFramework("CustomDraw");
     auto* button = [[[CustomDrawButton alloc] init] autorelease];
     UIView* holder = [[[UIView alloc] init] autorelease];
     [holder addSubview:button];

@@ -125,7 +125,7 @@ void LibraryTest::waitFor(const std::function<bool()>& condition) {
 void LibraryTest::settle() {
     bool isAnswered = false;
     bool* answered = &isAnswered;
-    [[[[LAContext alloc] init] autorelease] evaluatePolicy:LAPolicyDeviceOwnerAuthenticationWithBiometrics
+    [[[[LAContext alloc] init] autorelease] evaluatePolicy:LAPolicyDeviceOwnerAuthentication
                                            localizedReason:settlingReason
                                                      reply:^(BOOL, NSError*) {
                                                          dispatch_async(dispatch_get_main_queue(), ^{

@@ -73,7 +73,7 @@ PUAlbumListViewController* PhotosTest::openAlbumList(const json& preferences, co
 
 void PhotosTest::recordRequests() {
     m_recorder = [[RequestRecorder alloc] init];
-    [fileWritingCentre() runServerOnCurrentThread];
+    [[fileWritingCentre() retain] runServerOnCurrentThread]; // as long as the process
     for (NSString* name in @[ @"savearray", markName ])
         [fileWritingCentre() registerForMessageName:name
                                              target:m_recorder

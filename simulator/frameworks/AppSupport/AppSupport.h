@@ -14,7 +14,7 @@ class Mailbox;
     NSMutableDictionary* _handlers; // by message name
     simulator::Mailbox* _server;    // owned; null while it does not run
 }
-// One object per name and process, which lives as long as that. Main thread.
+// One object per name and process while somebody owns it: a server ends with its centre. Main thread.
 + (instancetype)centerNamed:(NSString*)name;
 
 @property (nonatomic, readonly) NSString* name;

@@ -8,8 +8,16 @@
 #include "frameworks/Foundation/PropertyLists.h"
 
 #include <fstream>
+#include <map>
+#include <memory>
 
 namespace {
+
+// Not owned.
+std::map<std::string, CPDistributedMessagingCenter*>& livingCentres() {
+    static auto* shared = new std::map<std::string, CPDistributedMessagingCenter*>;
+    return *shared;
+}
 
 std::filesystem::path mailboxOf(CPDistributedMessagingCenter* centre) {
     return simulator::mountedDevice() / "run" / "centres" / simulator::text([centre name]);
@@ -26,15 +34,20 @@ std::filesystem::path unlockedMarkOf(CPDistributedMessagingCenter* centre) {
 @synthesize name = _name;
 
 + (instancetype)centerNamed:(NSString*)name {
-    static NSMutableDictionary* centres = [[NSMutableDictionary alloc] init];
-    CPDistributedMessagingCenter* centre = [centres objectForKey:name];
-    if (centre == nil) {
-        centre = [[[self alloc] init] autorelease];
-        centre->_name = [name copy];
-        centre->_handlers = [[NSMutableDictionary alloc] init];
-        [centres setObject:centre forKey:name];
-    }
+    CPDistributedMessagingCenter*& centre = livingCentres()[simulator::text(name)];
+    if (centre != nil) return [[centre retain] autorelease];
+    centre = [[[self alloc] init] autorelease];
+    centre->_name = [name copy];
+    centre->_handlers = [[NSMutableDictionary alloc] init];
     return centre;
+}
+
+- (void)dealloc {
+    livingCentres().erase(simulator::text(_name));
+    if (_server != nullptr) [self stopServer];
+    [_name release];
+    [_handlers release];
+    [super dealloc];
 }
 
 - (BOOL)sendMessageName:(NSString*)name userInfo:(NSDictionary*)userInfo {
@@ -54,11 +67,14 @@ std::filesystem::path unlockedMarkOf(CPDistributedMessagingCenter* centre) {
 - (void)runServerOnCurrentThread {
     [self stopServer];
     NSThread* thread = [NSThread currentThread];
-    _server = new simulator::Mailbox(mailboxOf(self), [self, thread](const std::string& message) {
-        simulator::performOnThread(thread, [self, message] {
+    // What has been received is handled even when the centre has gone meanwhile.
+    const std::shared_ptr<NSDictionary> handlers([_handlers retain],
+                                                 [](NSDictionary* kept) { [kept release]; });
+    _server = new simulator::Mailbox(mailboxOf(self), [handlers, thread](const std::string& message) {
+        simulator::performOnThread(thread, [handlers, message] {
             NSDictionary* received = simulator::propertyListIn([NSData dataWithBytes:message.data()
                                                                               length:message.size()]);
-            [[_handlers objectForKey:[received objectForKey:@"name"]] perform:received];
+            [[handlers.get() objectForKey:[received objectForKey:@"name"]] perform:received];
         });
     });
     if (_unlocked) [self simulatorUnlock];

@@ -2,6 +2,7 @@
 
 #import "PhotosUI/ScreenHelpers.h"
 
+#include "device/conditions.h"
 #include "device/threads.h"
 
 NSString* const CAMCaptureDidSaveNotification = @"CAMCaptureDidSaveNotification";
@@ -18,15 +19,20 @@ UIImage* pictureNumbered(NSUInteger capture) {
 
 @implementation CAMCaptureEngine
 
-@synthesize captureThread = _captureThread;
-
 - (instancetype)init {
     self = [super init];
     if (!self) return nil;
+    _captureQueue = dispatch_queue_create("com.apple.camera.capture-results", DISPATCH_QUEUE_SERIAL);
+    return self;
+}
+
+// The thread keeps the engine.
+- (NSThread*)captureThread {
+    if (_captureThread != nil) return _captureThread;
     _captureThread = [[NSThread alloc] initWithTarget:self selector:@selector(_runCaptureThread) object:nil];
     [_captureThread setName:@"com.apple.camera.capture-engine"];
     [_captureThread start];
-    return self;
+    return _captureThread;
 }
 
 - (void)_runCaptureThread {
@@ -48,9 +54,22 @@ UIImage* pictureNumbered(NSUInteger capture) {
 
 - (void)captureStillImageWithError:(NSError*)error {
     NSError* outcome = [error retain];
-    simulator::performOnThread(_captureThread, [self, outcome] {
+    [self performWhereCapturesEnd:[self, outcome] {
         [self captureOutput:nil didFinishCaptureForResolvedSettings:nil error:[outcome autorelease]];
-    });
+    }];
+}
+
+- (void)performWhereCapturesEnd:(std::function<void()>)work {
+    switch (simulator::currentConditions()->captureDelivery) {
+    case simulator::CaptureDelivery::dispatchQueue:
+        return dispatch_async(_captureQueue, ^{
+            work();
+        });
+    case simulator::CaptureDelivery::runLoopThread:
+        return simulator::performOnThread([self captureThread], std::move(work));
+    case simulator::CaptureDelivery::mainThread:
+        return simulator::performOnMainThread(std::move(work));
+    }
 }
 
 - (void)captureOutput:(id)output didFinishCaptureForResolvedSettings:(id)settings error:(NSError*)error {

@@ -1,25 +1,32 @@
 #pragma once
 
+#import "Dispatch/Dispatch.h"
 #import "UIKit/UIKit.h"
 
 #include <atomic>
+#include <functional>
 
-/// Runs the camera. Captures end on a thread of its own that runs a run loop; the engine lives as long as the
-/// process.
+/// Runs the camera. Captures end where the device's conditions say, ordinarily on a queue of the engine's
+/// own.
 @interface CAMCaptureEngine : NSObject {
+    dispatch_queue_t _captureQueue;
     NSThread* _captureThread;
     std::atomic<NSUInteger> _capturesSaved;
 }
+/// Runs a run loop; captures end on it where the conditions ask for that. It keeps the engine alive, and is
+/// made when it is first asked for.
 @property (nonatomic, readonly) NSThread* captureThread;
 /// What the camera points at: the next photo. Any thread.
 - (UIImage*)pictureInSight;
-/// Takes a photo, which fails when there is an error; the end of the capture follows on the capture thread.
+/// Does the work behind the ends of captures that are on their way.
+- (void)performWhereCapturesEnd:(std::function<void()>)work;
+/// Takes a photo, which fails when there is an error; the end of the capture follows.
 /// Any thread.
 - (void)captureStillImageWithError:(NSError*)error;
 /// Records a video, which then is in the library. Any thread.
 - (void)captureVideo;
 /// Puts the photo into the library, unless the capture failed. The output and the settings that were used are
-/// nil here. Capture thread.
+/// nil here. Where captures end.
 - (void)captureOutput:(id)output didFinishCaptureForResolvedSettings:(id)settings error:(NSError*)error;
 @end
 

@@ -2,6 +2,7 @@
 // is that of the host.
 #include "device/exceptions.h"
 #include "device/process.h"
+#include "device/releases.h"
 #include "device/root.h"
 #include "device/strings.h"
 #include "frameworks/ObjectiveC/Replacement.h"
@@ -15,6 +16,7 @@ namespace {
 NSString* (*originalBundleIdentifier)(id, SEL);
 BOOL (*originalLoad)(id, SEL);
 Class (*originalPrincipalClass)(id, SEL);
+id (*originalInformation)(id, SEL, NSString*);
 
 NSString* bundleIdentifier(id self, SEL command) {
     const std::string host = hostBundleIdentifier();
@@ -45,7 +47,18 @@ BOOL loadExecutable(NSString* path) {
     return YES;
 }
 
+// The host's own are known as the names of keys alone: any text will do as the description.
+id information(id self, SEL command, NSString* key) {
+    if (self == [NSBundle mainBundle] && hostDescribesUsage(text(key))) return @"To keep your pictures.";
+    return originalInformation(self, command, key);
+}
+
 BOOL load(id self, SEL command) {
+    NSString* path = [self bundlePath];
+    if ([path hasPrefix:@"/System/Library/Frameworks/"]) {
+        addLoadedFramework(text([[path lastPathComponent] stringByDeletingPathExtension]));
+        return YES;
+    }
     NSString* executable = [flatInformation(self) objectForKey:@"CFBundleExecutable"];
     return executable ? loadExecutable(fileIn(self, executable)) : originalLoad(self, command);
 }
@@ -59,6 +72,7 @@ Class principalClass(id self, SEL command) {
 __attribute__((constructor)) void loadBundlesAsTheDeviceDoes() {
     originalBundleIdentifier = replaceMethod("NSBundle", '-', "bundleIdentifier", bundleIdentifier);
     originalLoad = replaceMethod("NSBundle", '-', "load", load);
+    originalInformation = replaceMethod("NSBundle", '-', "objectForInfoDictionaryKey:", information);
     originalPrincipalClass = replaceMethod("NSBundle", '-', "principalClass", principalClass);
 }
 

@@ -3,6 +3,8 @@
 #include "Dispatch/Dispatch.h"
 #include "LocalAuthentication/Reasons.h"
 #include "device/conditions.h"
+#include "device/process.h"
+#include "device/releases.h"
 #include "device/strings.h"
 
 #include <Block.h>
@@ -14,6 +16,7 @@ NSString* const LAErrorDomain = @"com.apple.LocalAuthentication";
 namespace {
 
 using simulator::BiometricOutcome;
+using simulator::Biometry;
 
 struct Ending {
     BiometricOutcome outcome;
@@ -46,18 +49,26 @@ NSError* errorOf(const Ending& ending) {
 std::vector<std::string> simulator::authenticationReasons() { return reasons; }
 
 @implementation LAContext
+@synthesize biometryType = _biometryType;
+
 - (BOOL)canEvaluatePolicy:(LAPolicy)policy error:(NSError**)error {
-    const Ending& ending = currentEnding();
-    const bool available = ending.outcome != BiometricOutcome::notAvailable ||
-                           policy != LAPolicyDeviceOwnerAuthenticationWithBiometrics;
-    if (!available && error != nullptr) *error = errorOf(ending);
+    const Biometry biometry = simulator::currentConditions()->biometry;
+    _biometryType = static_cast<LABiometryType>(biometry);
+    const Ending& unavailable = endings[static_cast<std::size_t>(BiometricOutcome::notAvailable)];
+    const bool available = policy != LAPolicyDeviceOwnerAuthenticationWithBiometrics ||
+                           (biometry != Biometry::none && currentEnding().outcome != unavailable.outcome);
+    if (!available && error != nullptr) *error = errorOf(unavailable);
     return available ? YES : NO;
 }
 
 - (void)evaluatePolicy:(LAPolicy)policy
        localizedReason:(NSString*)localizedReason
                  reply:(void (^)(BOOL success, NSError* error))reply {
-    (void)policy;
+    if (policy == LAPolicyDeviceOwnerAuthenticationWithBiometrics &&
+        simulator::currentConditions()->biometry == Biometry::faceId &&
+        simulator::currentRelease() >= simulator::Release::ios11_4 &&
+        !simulator::hostDescribesUsage(simulator::faceIdUsage))
+        simulator::endForMissingDescription(simulator::faceIdUsage);
     if ([localizedReason length] == 0)
         [NSException raise:NSInvalidArgumentException format:@"Non-empty localizedReason must be provided."];
     reasons.push_back(simulator::text(localizedReason));

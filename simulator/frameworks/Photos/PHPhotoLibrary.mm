@@ -3,6 +3,7 @@
 #import "Dispatch/Dispatch.h"
 
 #include "device/conditions.h"
+#include "device/process.h"
 
 #include <stdexcept>
 
@@ -30,7 +31,28 @@ NSError* commit(const simulator::Change& change) {
 
 } // namespace
 
+namespace simulator {
+
+void endUnlessFetchingIsSafe() {
+    if (currentRelease() < Release::ios10_1 || hostBundleIdentifier().empty()) return;
+    if ([PHPhotoLibrary authorizationStatus] == PHAuthorizationStatusAuthorized) return;
+    if (!hostDescribesUsage(photoUsage)) endForMissingDescription(photoUsage);
+}
+
+} // namespace simulator
+
 @implementation PHPhotoLibrary
+
++ (PHAuthorizationStatus)authorizationStatus {
+    using simulator::PhotoAccess;
+    const PhotoAccess access = simulator::currentConditions()->photoAccess;
+    if (access != PhotoAccess::ifAsked)
+        return static_cast<PHAuthorizationStatus>(static_cast<int>(access) -
+                                                  static_cast<int>(PhotoAccess::notDetermined));
+    const bool canAsk = simulator::currentRelease() < simulator::Release::ios10_1 ||
+                        simulator::hostDescribesUsage(simulator::photoUsage);
+    return canAsk ? PHAuthorizationStatusAuthorized : PHAuthorizationStatusNotDetermined;
+}
 
 + (PHPhotoLibrary*)sharedPhotoLibrary {
     static PHPhotoLibrary* library = [[PHPhotoLibrary alloc] init];

@@ -56,9 +56,12 @@ std::optional<std::string> titleOf(NSString* title);
 /// What a fetch of assets leaves out and how it is sorted, by its options; nil options are the default ones.
 AssetFilter filterOf(PHFetchOptions* options);
 
-/// Of the records, those that the options' predicate lets pass.
+/// Of the records, those that the options' predicate lets pass: the end of every fetch.
 PHFetchResult* resultOf(const Assets& assets, PHFetchOptions* options);
 PHFetchResult* resultOf(const Collections& collections, PHFetchOptions* options);
+
+/// From iOS 10 on the system ends an application that fetches unless it is authorized or describes its usage.
+void endUnlessFetchingIsSafe();
 
 [[noreturn]] void raise(NSString* exception, NSString* reason);
 

@@ -29,6 +29,7 @@ AssetFilter filterOf(PHFetchOptions* options) {
 }
 
 PHFetchResult* resultOf(const Assets& assets, PHFetchOptions* options) {
+    endUnlessFetchingIsSafe();
     NSMutableArray* objects = [NSMutableArray arrayWithCapacity:assets.size()];
     for (const Asset& record : assets) {
         PHAsset* asset = [[PHAsset alloc] initWithAsset:record];
@@ -40,6 +41,7 @@ PHFetchResult* resultOf(const Assets& assets, PHFetchOptions* options) {
 }
 
 PHFetchResult* resultOf(const Collections& collections, PHFetchOptions* options) {
+    endUnlessFetchingIsSafe();
     if ([options.sortDescriptors count] > 0)
         raise(NSInvalidArgumentException, @"Unsupported sort descriptor in fetch options");
     NSMutableArray* objects = [NSMutableArray arrayWithCapacity:collections.size()];

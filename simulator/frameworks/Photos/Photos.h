@@ -182,10 +182,19 @@ extern const CGSize PHImageManagerMaximumSize;
 - (NSSet*)fetchedObjectIDsSet;
 @end
 
+typedef NS_ENUM(NSInteger, PHAuthorizationStatus) {
+    PHAuthorizationStatusNotDetermined = 0,
+    PHAuthorizationStatusRestricted = 1,
+    PHAuthorizationStatusDenied = 2,
+    PHAuthorizationStatusAuthorized = 3,
+};
+
 /// The library that is changed. Change blocks and completion handlers run on one serial background queue:
 /// block, transaction, handler, then the next change.
 @interface PHPhotoLibrary : NSObject
 + (PHPhotoLibrary*)sharedPhotoLibrary;
+/// Neither asks nor ends the application.
++ (PHAuthorizationStatus)authorizationStatus;
 /// Everything that the block requests is done, or nothing. The handler may be nil.
 - (void)performChanges:(void (^)(void))changes
      completionHandler:(void (^)(BOOL success, NSError* error))handler;

@@ -11,6 +11,7 @@ inline constexpr const char* messenger = "com.facebook.Messenger";
 inline constexpr const char* whatsApp = "net.whatsapp.WhatsApp";
 inline constexpr const char* imgur = "imgurmobile";
 inline constexpr const char* plain = "com.example.plain"; // any application of a third party
+inline constexpr const char* saver = "com.example.saver"; // one that saves pictures and reads none
 inline constexpr const char* jolly = "com.apple.store.Jolly";
 
 } // namespace simulator::bundle

@@ -24,7 +24,4 @@ std::vector<HomeIcon> homeIcons();
 // an unknown application.
 void setHasFramework(std::string_view bundleIdentifier, std::string_view framework, bool has);
 
-// Loads one more framework into the running application, as a tool does that is injected late.
-void loadFramework(std::string_view framework);
-
 } // namespace simulator

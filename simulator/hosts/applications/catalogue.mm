@@ -37,6 +37,7 @@ const struct {
     {"Preferences", {"PS"}},
     {"PreferencesApp", {"PreferencesAppController"}},
     {"Messenger", {"MN"}},
+    {"Plain", {"Plain"}},
 };
 
 struct Entry {
@@ -48,6 +49,7 @@ struct Entry {
     void (*addVerbs)() = nullptr;                   // what a user can do in it
     bool worksInRootFolder = false;
     HomeIcon icon = {};
+    bool readsPhotos = true; // and says in its Info.plist why
 };
 
 // clang-format off
@@ -73,10 +75,12 @@ const std::vector<Entry>& entries() {
         {.bundleIdentifier = bundle::imgur, .frameworks = {"imgur"},
          .firstScreen = "IMGAlbumPickerViewController", .titleInBar = "Upload", .addVerbs = [] { registerVerb("listPicker", describePickerOnScreen); },
          .icon = {"imgur", outline::upload, {0.11, 0.73, 0.41}}},
-        {.bundleIdentifier = bundle::plain, .frameworks = {"PhotosUI", "PhotosUICore"},
+        {.bundleIdentifier = bundle::plain, .frameworks = {"Plain"},
          .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs,
          .icon = {"Picture", outline::page, {0.55, 0.35, 0.85}}},
-        {.bundleIdentifier = bundle::jolly, .frameworks = {"PhotosUI", "PhotosUICore"},
+        {.bundleIdentifier = bundle::saver, .frameworks = {"Plain"},
+         .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs, .readsPhotos = false},
+        {.bundleIdentifier = bundle::jolly, .frameworks = {"Plain"},
          .firstScreen = "PlainViewController", .titleInBar = "Picture", .addVerbs = plain::addVerbs},
     };
     return all;
@@ -96,9 +100,11 @@ void start(const Entry& entry) {
 }
 
 void registerEntry(const Entry& entry, std::vector<std::string> loaded) {
-    registerApplication(entry.bundleIdentifier, {.start = [&entry] { start(entry); },
-                                                 .frameworks = std::move(loaded),
-                                                 .worksInRootFolder = entry.worksInRootFolder});
+    Application application{.start = [&entry] { start(entry); },
+                            .frameworks = std::move(loaded),
+                            .worksInRootFolder = entry.worksInRootFolder};
+    if (!entry.readsPhotos) application.usageDescriptions.clear();
+    registerApplication(entry.bundleIdentifier, std::move(application));
 }
 
 const Entry& entryFor(std::string_view bundleIdentifier) {
@@ -134,13 +140,6 @@ void setHasFramework(std::string_view bundleIdentifier, std::string_view framewo
     std::erase(loaded, framework);
     if (has) loaded.emplace_back(framework);
     registerEntry(entry, std::move(loaded));
-}
-
-void loadFramework(std::string_view framework) {
-    std::vector<std::string> loaded =
-        entryFor([[[NSBundle mainBundle] bundleIdentifier] UTF8String]).frameworks;
-    loaded.emplace_back(framework);
-    setLoadedFrameworks(std::move(loaded));
 }
 
 } // namespace simulator

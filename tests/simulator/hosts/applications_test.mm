@@ -1,4 +1,5 @@
 // Every application starts in a process of its own, shows its first screen and does what it is there for.
+#include "device/exceptions.h"
 #include "support/library_fixture.h"
 
 #include <gmock/gmock.h>
@@ -35,6 +36,17 @@ TEST_P(Applications, show_their_first_screen_and_do_what_they_are_for) {
     process.stop();
 }
 
+TEST_F(LibraryTest, ends_an_application_that_reads_photos_without_saying_why) {
+    for (const Release release : {Release::ios9_3, Release::ios10_1}) {
+        change([&](Conditions& conditions) { conditions.release = release; });
+        HostProcess process = startProcess(host::saver, false);
+        const auto failure = standardExceptionOf([&] { process.call("listPicker"); });
+        EXPECT_EQ(failure.has_value(), release >= Release::ios10_1);
+        if (failure) waitFor([&] { return !process.isRunning(); });
+        EXPECT_EQ(process.isRunning(), !failure);
+    }
+}
+
 const json ready = {{"do", "ready"}};
 const json listPicker = {{"do", "listPicker"}};
 
@@ -51,6 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ApplicationCase{host::whatsApp, "WAAlbumPickerViewController", listPicker, 10, 3},
                     ApplicationCase{host::imgur, "IMGAlbumPickerViewController", listPicker, 10, 3},
                     ApplicationCase{host::plain, "PlainViewController", listPicker, 10, 3},
+                    ApplicationCase{host::saver, "PlainViewController", {{"do", "saveImage"}}, 11},
                     ApplicationCase{host::jolly, "PlainViewController", {{"do", "saveImage"}}, 11}),
     [](const auto& info) {
         std::string name = info.param.bundleIdentifier;

@@ -2,8 +2,8 @@
 
 #import "UIKit/ViewTree.h"
 
+#include "device/releases.h"
 #include "device/threads.h"
-#include "hosts/applications/catalogue.h"
 #include "hosts/applications/common/screen.h"
 #include "hosts/host.h"
 
@@ -37,7 +37,7 @@ void takeVideo() {
 }
 
 void addDrawButton() {
-    loadFramework("CustomDraw");
+    addLoadedFramework("CustomDraw");
     CAMBottomBar* bar = [viewfinder() bottomBar];
     [bar addSubview:[[[CustomDrawButton alloc] initWithFrame:CGRectMake(60, 30, 28, 28)] autorelease]];
     [bar setNeedsLayout];
@@ -45,8 +45,10 @@ void addDrawButton() {
 }
 
 void waitForCaptureThread() {
+    CAMCaptureEngine* engine = [viewfinder() captureController];
+    if (engine == nil) return; // before iOS 9
     auto done = std::make_shared<std::atomic<bool>>(false);
-    performOnThread([[viewfinder() captureController] captureThread], [done] { *done = true; });
+    [engine performWhereCapturesEnd:[done] { *done = true; }];
     waitUntil([&] { return done->load(); }, "the capture thread");
 }
 
