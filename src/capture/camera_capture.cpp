@@ -10,16 +10,31 @@ namespace rollkeeper::camera {
 namespace {
 
 constexpr NSTimeInterval captureReachesLibrary = 0.9;
+constexpr NSTimeInterval timerHasHadItsTurn = 1.2;
 constexpr CGSize thumbnailSize = {175, 175};
+
+// Main thread, in the place of a timer whose thread has not come to fire it. A timer should be invalidated on
+// its own thread, since its run loop may keep it otherwise, but that thread may have ended by now. What
+// matters holds on any thread: it never fires again, not even when the thread runs its run loop some day.
+void moveInPlaceOf(NSTimer timer, CAMCaptureEngine engine) {
+    if (!timer.isValid()) return;
+    timer.invalidate();
+    engine.movePhoto();
+}
 
 } // namespace
 
+// Captures ordinarily end on a thread of a dispatch queue. That runs no run loop, so a timer on it waits for
+// ever; it is looked at once more from the main thread then.
+//
 // A failed capture moves a photo as well: the newest one then.
 NSObject didFinishCapture(CAMCaptureEngine self, SEL command, NSObject output, NSObject captureSettings,
                           NSError error) {
     const NSObject result = original<didFinishCapture>(self, command, output, captureSettings, error);
-    if (settings::enabled && settings::enableCameraPicker)
-        NSTimer::sendOnce(captureReachesLibrary, self, selector<"movePhoto">());
+    if (!settings::enabled || !settings::enableCameraPicker) return result;
+    const NSTimer timer = NSTimer::sendOnce(captureReachesLibrary, self, selector<"movePhoto">());
+    if (!NSThread::isMainThread() && !NSRunLoop::currentRunLoop().currentMode())
+        onMainQueueAfter(timerHasHadItsTurn, moveInPlaceOf, share(timer), share(self));
     return result;
 }
 

@@ -3,6 +3,7 @@
 #include "capture/newest_photo.h"
 #include "objc/global.h"
 #include "objc/replacement.h"
+#include "platform/core_foundation.h"
 #include "settings/settings.h"
 
 namespace rollkeeper {
@@ -17,6 +18,16 @@ struct ActivityMethods {
     static void movePhoto(NSObject activity) { send<ActivityMethods, "movePhoto", void>(activity); }
     static void chooseAlbum(NSObject activity) { send<ActivityMethods, "chooseAlbum", void>(activity); }
 };
+
+// From iOS 10 on the system ends an application that fetches photos, unless it is authorized to or describes
+// why it does so. One that only saves pictures need do neither.
+bool mayFetchPhotos() {
+    if (kCFCoreFoundationVersionNumber < coreFoundationVersion::ios10) return true;
+    const bool isAuthorized = !classObject<PHPhotoLibrary>().respondsTo<"authorizationStatus">() ||
+                              PHPhotoLibrary::authorizationStatus() == PHAuthorizationStatus::authorized;
+    return isAuthorized ||
+           NSBundle::mainBundle().objectForInfoDictionaryKey("NSPhotoLibraryUsageDescription"_ns);
+}
 
 UIViewController rootViewController() {
     return UIApplication::sharedApplication().keyWindow().rootViewController();
@@ -40,7 +51,7 @@ namespace shareActivity {
 
 NSObject performActivity(UISaveToCameraRollActivity self, SEL command) {
     const NSObject result = original<performActivity>(self, command);
-    if (settings::enabled && settings::saveActivityEnabled && self.imageCount() >= 1)
+    if (settings::enabled && settings::saveActivityEnabled && self.imageCount() >= 1 && mayFetchPhotos())
         ActivityMethods::chooseAlbum(self);
     return result;
 }

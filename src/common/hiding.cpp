@@ -2,9 +2,20 @@
 
 namespace rollkeeper {
 
+namespace {
+
+// Most applications have PhotosUI only once somebody loads it.
+Class hidingHelper() {
+    if (const Class helper = classNamed<PUAssetHidingHelper::className>()) return helper;
+    NSBundle::bundleWithPath("/System/Library/Frameworks/PhotosUI.framework"_ns).load();
+    return classNamed<PUAssetHidingHelper::className>();
+}
+
+} // namespace
+
 // iOS 8 has a class of this name that does something else.
 bool canHideAssets() {
-    const Class helper = classNamed<PUAssetHidingHelper::className>();
+    const Class helper = hidingHelper();
     return helper && class_getInstanceMethod(helper, selector<"applyHiddenState:completionHandler:">());
 }
 

@@ -7,7 +7,8 @@ namespace rollkeeper {
 
 enum class Photos : bool { shown = false, hidden = true };
 
-// Whether this process can hide assets at all: PhotosUI may be missing, or of a release that cannot.
+// Whether this process can hide assets at all: PhotosUI, which this loads where it is not yet, may be missing
+// or of a release that cannot.
 bool canHideAssets();
 
 // Starts to hide or show the assets, on a queue of the framework, and returns. The completion, void(), runs

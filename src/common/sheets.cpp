@@ -31,7 +31,8 @@ UITextField Alert::addTextField(NSString placeholder, bool secure) {
         },
         share(placeholder), secure));
     const NSArray fields = controller_.textFields();
-    return fields ? cast<UITextField>(fields.objectAtIndex(fields.count() - 1)) : UITextField();
+    const NSUInteger count = fields.count();
+    return count > 0 ? cast<UITextField>(fields.objectAtIndex(count - 1)) : UITextField();
 }
 
 void Alert::point(UIView view, CGRect rect) const {

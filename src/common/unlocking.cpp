@@ -68,10 +68,16 @@ void answerOfTouchId(UnlockFlow flow, Owner<NSObject> asker, int purpose, bool s
     }
 }
 
+// A device with Face ID ends an application that asks for a face and does not describe why it does so.
+bool wouldEndApplication(LAContext context) {
+    return context.respondsTo<"biometryType">() && context.biometryType() == LABiometryType::faceId &&
+           !NSBundle::mainBundle().objectForInfoDictionaryKey("NSFaceIDUsageDescription"_ns);
+}
+
 void askTouchId(UnlockFlow flow, NSObject asker, int purpose, NSString albumTitle) {
     const Owner<LAContext> context = make<LAContext>();
     constexpr LAPolicy policy = LAPolicy::deviceOwnerAuthenticationWithBiometrics;
-    if (context->canEvaluatePolicy(policy)) {
+    if (context->canEvaluatePolicy(policy) && !wouldEndApplication(context)) {
         const NSString title = albumTitle ? albumTitle : ""_ns;
         context->evaluatePolicy(
             policy, title.stringByAppendingString(" needs to be unlocked."_ns),

@@ -31,6 +31,11 @@ template <ObjectHandle Wrapper> Wrapper ifKindOf(Object object) {
     return wanted && cast<NSObject>(object).isKindOfClass(wanted) ? cast<Wrapper>(object) : Wrapper();
 }
 
+// The class itself as an object; nil where the process lacks it.
+template <ObjectHandle Wrapper> NSObject classObject() {
+    return cast<NSObject>(Object{reinterpret_cast<id>(classNamed<Wrapper::className>())});
+}
+
 // The first step of "alloc and init": the initialiser that follows makes it the caller's.
 template <ObjectHandle Wrapper> Wrapper allocate() {
     return sendToSubclass<Wrapper, NSObject, "alloc", Wrapper>();

@@ -7,6 +7,9 @@ namespace rollkeeper {
 
 struct CAMCaptureEngine : NSObject {
     static constexpr FixedString className = "CAMCaptureEngine";
+
+    // Added by the library.
+    void movePhoto() const { send<CAMCaptureEngine, "movePhoto", void>(*this); }
 };
 
 struct CAMBottomBar : UIView {

@@ -260,10 +260,29 @@ struct NSTimer : NSObject {
     static constexpr FixedString className = "NSTimer";
 
     // Sends `action` to `target` once, on the run loop of the calling thread; the target is kept until then.
-    static void sendOnce(NSTimeInterval delay, Object target, SEL action) {
-        sendToClass<NSTimer, "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:", NSTimer>(
-            delay, cast<NSObject>(target), action, NSObject(), false);
+    static NSTimer sendOnce(NSTimeInterval delay, Object target, SEL action) {
+        return sendToClass<NSTimer, "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:",
+                           NSTimer>(delay, cast<NSObject>(target), action, NSObject(), false);
     }
+
+    // Until it has fired or was invalidated.
+    bool isValid() const { return send<NSTimer, "isValid", bool>(*this); }
+    void invalidate() const { send<NSTimer, "invalidate", void>(*this); }
+};
+
+struct NSThread : NSObject {
+    static constexpr FixedString className = "NSThread";
+
+    static bool isMainThread() { return sendToClass<NSThread, "isMainThread", bool>(); }
+};
+
+struct NSRunLoop : NSObject {
+    static constexpr FixedString className = "NSRunLoop";
+
+    static NSRunLoop currentRunLoop() { return sendToClass<NSRunLoop, "currentRunLoop", NSRunLoop>(); }
+
+    // Nil while it does not run.
+    NSString currentMode() const { return send<NSRunLoop, "currentMode", NSString>(*this); }
 };
 
 struct NSIndexPath : NSObject {
@@ -283,6 +302,11 @@ struct NSBundle : NSObject {
     }
 
     NSString bundleIdentifier() const { return send<NSBundle, "bundleIdentifier", NSString>(*this); }
+    NSObject objectForInfoDictionaryKey(NSString key) const {
+        return send<NSBundle, "objectForInfoDictionaryKey:", NSObject>(*this, key);
+    }
+    // Does nothing when the code is in the process already.
+    bool load() const { return send<NSBundle, "load", bool>(*this); }
     NSString localizedString(NSString key, NSString value, NSString table) const {
         return send<NSBundle, "localizedStringForKey:value:table:", NSString>(*this, key, value, table);
     }

@@ -1,4 +1,4 @@
-// LocalAuthentication: Touch ID.
+// LocalAuthentication: Touch ID and Face ID.
 #pragma once
 
 #include "platform/foundation.h"
@@ -6,6 +6,8 @@
 namespace rollkeeper {
 
 enum class LAPolicy : NSInteger { deviceOwnerAuthenticationWithBiometrics = 1 };
+
+enum class LABiometryType : NSInteger { faceId = 2 };
 
 namespace laError {
 inline constexpr NSInteger userFallback = -3;
@@ -17,6 +19,9 @@ struct LAContext : NSObject {
     bool canEvaluatePolicy(LAPolicy policy) const {
         return send<LAContext, "canEvaluatePolicy:error:", bool>(*this, policy, NSString::noError);
     }
+
+    // From iOS 11 on, and known only once canEvaluatePolicy was asked.
+    LABiometryType biometryType() const { return send<LAContext, "biometryType", LABiometryType>(*this); }
 
     // The reply, void(bool success, NSError error), arrives on a queue of the framework.
     void evaluatePolicy(LAPolicy policy, NSString reason, Block reply) const {

@@ -149,11 +149,18 @@ struct PHAssetCollectionChangeRequest : NSObject {
     }
 };
 
+enum class PHAuthorizationStatus : NSInteger { authorized = 3 };
+
 struct PHPhotoLibrary : NSObject {
     static constexpr FixedString className = "PHPhotoLibrary";
 
     static PHPhotoLibrary sharedPhotoLibrary() {
         return sendToClass<PHPhotoLibrary, "sharedPhotoLibrary", PHPhotoLibrary>();
+    }
+
+    // Asks nobody anything.
+    static PHAuthorizationStatus authorizationStatus() {
+        return sendToClass<PHPhotoLibrary, "authorizationStatus", PHAuthorizationStatus>();
     }
 
     // `changes`, void(), and `completion`, void(bool success, NSError error), run on a queue of the

@@ -9,7 +9,8 @@
 
 namespace rollkeeper {
 
-// Sets or clears the hidden flag of assets. Missing where PhotosUI is not loaded, and before iOS 9.
+// Sets or clears the hidden flag of assets. Missing where PhotosUI is not loaded; iOS 8 has
+// another class of this name.
 struct PUAssetHidingHelper : NSObject {
     static constexpr FixedString className = "PUAssetHidingHelper";
 

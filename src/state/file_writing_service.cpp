@@ -8,10 +8,11 @@ namespace rollkeeper {
 void applicationDidFinishLaunching(NSObject springBoard, SEL command, UIApplication application) {
     original<applicationDidFinishLaunching>(springBoard, command, application);
 
-    const auto center = fileWriting::center();
-    center.runServerOnCurrentThread();
-    center.registerForMessage(fileWriting::messageName(), springBoard,
-                              selector<"handleMessageNamed:withUserInfo:">());
+    auto center = share(fileWriting::center());
+    center->runServerOnCurrentThread();
+    center->registerForMessage(fileWriting::messageName(), springBoard,
+                               selector<"handleMessageNamed:withUserInfo:">());
+    (void)center.leak(); // it serves as long as it lives
 }
 
 // Returns nil although its registered type returns nothing: message centres read a handler's result.

@@ -23,6 +23,10 @@ inline constexpr const char* cameraRoll = "Camera Roll";
 inline constexpr const char* newAlbum = "- Create new album -"; // the action
 inline constexpr const char* longTitle = "A title that is far too long for a label under such a small button";
 
+inline constexpr double untilMoved = 1.21; // seconds after a capture, whatever thread it ended on
+
+inline constexpr const char* photosUI = "/System/Library/Frameworks/PhotosUI.framework";
+
 // What an album holds, and what is hidden at all, after a photo was put into it.
 struct Step {
     const char* album;
@@ -74,7 +78,7 @@ class CaptureTest : public PhotosTest {
     // Captures, or fails to, and lets what then is due happen.
     void capture(void (*action)() = camera::takePhoto) {
         action();
-        pass(0.9);
+        pass(untilMoved);
     }
     void pass(double seconds) {
         clock().advance(seconds);

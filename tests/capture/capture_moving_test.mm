@@ -33,47 +33,98 @@ TEST_F(Capture, goes_into_the_chosen_album_and_leaves_the_camera_roll_if_wanted)
     EXPECT_EQ(library().collections(CollectionKind::album).size(), 10U) << "no title was created twice";
 }
 
-bool movedOnCaptureThread = false;
+NSThread* moveThread = nil;
 void (*originalMove)(id, SEL);
 void noteThread(id self, SEL command) {
-    movedOnCaptureThread =
-        [NSThread currentThread] == [[camera::viewfinder() captureController] captureThread];
+    moveThread = [NSThread currentThread];
     originalMove(self, command);
 }
 
-TEST_F(Capture, moves_what_is_newest_a_moment_later_once_and_on_the_thread_that_reported_it) {
+// A thread of a dispatch queue runs no run loop, on which a timer could fire.
+TEST_F(Capture, moves_what_is_newest_a_moment_later_and_once_whatever_thread_reports_it) {
     openCamera("Pets");
     replaceMethod("CAMCaptureEngine", @selector(movePhoto), &noteThread, &originalMove);
-    for (int photo = 0; photo < 3; ++photo) {
-        camera::takePhoto();
-        pass(0.1);
+    NSThread* runLoopThread = [[camera::viewfinder() captureController] captureThread];
+    const struct {
+        CaptureDelivery delivery;
+        double due;
+        NSThread* thread;
+        std::size_t looks;
+    } cases[] = {{CaptureDelivery::dispatchQueue, 1.2, [NSThread mainThread], 1},
+                 {CaptureDelivery::runLoopThread, 0.9, runLoopThread, 0},
+                 {CaptureDelivery::mainThread, 0.9, [NSThread mainThread], 0}};
+    Numbers moved;
+    for (const auto& each : cases) {
+        change([&](Conditions& conditions) { conditions.captureDelivery = each.delivery; });
+        const std::size_t timers = clock().pendingTimers();
+        for (int photo = 0; photo < 3; ++photo) {
+            camera::takePhoto();
+            pass(0.1);
+        }
+        EXPECT_EQ(clock().pendingTimers() - timers, 3 * (1 + each.looks));
+        pass(each.due - 0.31);
+        expect({"Pets", true, moved, moved});
+        pass(0.02);
+        EXPECT_TRUE(moveThread == each.thread);
+        const std::size_t first = 10 + moved.size();
+        Numbers expected = moved;
+        for (const std::size_t newest : {first + 2, first + 1, first}) {
+            expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(moved.size()), newest);
+            expect({"Pets", true, expected, expected});
+            pass(newest == first ? 60 : 0.1);
+        }
+        expect({"Pets", true, expected, expected});
+        moved = expected;
     }
-    pass(0.59);
-    expect({"Pets", true, {}, {}});
-    pass(0.02);
-    EXPECT_TRUE(movedOnCaptureThread);
-    expect({"Pets", true, {12}, {12}});
-    pass(0.1);
-    expect({"Pets", true, {11, 12}, {11, 12}});
-    pass(60);
-    expect({"Pets", true, {10, 11, 12}, {10, 11, 12}});
+}
+
+TEST_F(Capture, is_moved_once_where_the_thread_of_a_queue_runs_its_run_loop_later) {
+    openCamera("Pets");
+    for (const double late : {0.9, untilMoved}) {
+        auto* engine = [[CAMCaptureEngine alloc] init];
+        NSError* failure = [NSError errorWithDomain:@"AVFoundationErrorDomain" code:-11800 userInfo:nil];
+        const auto runWhereCapturesEnd = [&](std::function<void()> work) {
+            bool isDone = false;
+            [engine performWhereCapturesEnd:[&] {
+                work();
+                dispatch_async(dispatch_get_main_queue(), ^{
+                    isDone = true;
+                });
+            }];
+            waitFor([&] { return isDone; });
+        };
+        [engine captureStillImageWithError:failure];
+        runWhereCapturesEnd([] {});
+        [engine autorelease];
+        pass(late);
+        runWhereCapturesEnd([] {
+            NSRunLoop* loop = [NSRunLoop currentRunLoop];
+            [loop addPort:[[NSPort port] retain] forMode:NSDefaultRunLoopMode]; // without one it would return
+            [loop runMode:NSDefaultRunLoopMode beforeDate:[NSDate dateWithTimeIntervalSinceNow:0.05]];
+        });
+        settle();
+        const Numbers expected = late == 0.9 ? Numbers{9} : Numbers{8, 9};
+        expect({"Pets", true, expected, expected});
+        pass(60);
+        expect({"Pets", true, expected, expected});
+    }
 }
 
 TEST_F(Capture, follows_choice_and_settings_of_the_moment_it_is_moved) {
     openCamera("Pets");
     camera::takePhoto();
     choose(cameraRoll);
-    pass(0.9);
+    pass(untilMoved);
     expect({"Pets", true, {}, {}});
     camera::takePhoto();
     choose("Pets");
     setMoves(false);
-    pass(0.9);
+    pass(untilMoved);
     expect({"Pets", false, {11}, {}});
     camera::takePhoto();
     for (const char* key : {"enabled", "enableCameraPicker"}) {
         reloadPreferences({{key, false}});
-        pass(0.9);
+        pass(untilMoved);
         capture();
         expect({"Pets", true, {11, 12}, {12}}); // what was scheduled is done, and no more
     }
@@ -98,12 +149,12 @@ TEST_F(Capture, that_fails_moves_the_newest_visible_photo) {
 
 // A photo that arrives while the library is busy is newer than the one that is hidden.
 TEST_F(Capture, is_looked_up_at_once_but_anew_for_an_album_that_is_created_first) {
+    change([](Conditions& conditions) { conditions.captureDelivery = CaptureDelivery::mainThread; });
     openCamera();
     const auto captureWhileBusy = [&](double newer) {
         camera::failCapture();
         whileLibraryIsBusy([&] {
-            clock().advance(0.9);
-            camera::waitForCaptureThread();
+            clock().advance(untilMoved);
             library().addAsset({.created = newer});
         });
     };
@@ -135,6 +186,7 @@ TEST_F(Capture, is_not_added_to_an_album_whose_creation_failed) {
 
 TEST_F(Capture, is_added_even_where_nothing_can_be_hidden) {
     setHasFramework(host::camera, "PhotosUI", false);
+    change([](Conditions& conditions) { conditions.faults.missing = {photosUI}; });
     openCamera("Pets");
     capture();
     expect({"Pets", true, {10}, {}});

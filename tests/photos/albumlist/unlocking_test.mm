@@ -3,6 +3,8 @@
 #include "support/photos_fixture.h"
 
 #include "device/clock.h"
+#include "device/process.h"
+#include "support/replacing.h"
 
 #include <gmock/gmock.h>
 
@@ -181,6 +183,56 @@ INSTANTIATE_TEST_SUITE_P(Actions, EachAction,
                          testing::Values(Action::open, Action::deleteAlbum, Action::removeLock,
                                          Action::removeLockByButton, Action::moveByButton),
                          nameOf);
+
+class Biometrics : public Unlocking, public testing::WithParamInterface<Release> {};
+
+// From iOS 11 on an application that asks for a face without saying why is ended.
+TEST_P(Biometrics, are_asked_where_the_device_has_them_and_the_application_may) {
+    change([](Conditions& conditions) {
+        conditions.release = GetParam();
+        conditions.biometricOutcome = BiometricOutcome::refusedWithoutError; // asks for no password then
+    });
+    openLocked(0);
+    std::size_t evaluations = 0;
+    for (const Biometry biometry : {Biometry::none, Biometry::touchId, Biometry::faceId}) {
+        change([&](Conditions& conditions) { conditions.biometry = biometry; });
+        for (const bool describesUsage : {false, true}) {
+            setUsageDescriptions({photoUsage});
+            if (describesUsage) setUsageDescriptions({photoUsage, faceIdUsage});
+            const bool mayAsk = describesUsage || GetParam() < Release::ios11_4;
+            const bool isEvaluated =
+                biometry == Biometry::touchId || (biometry == Biometry::faceId && mayAsk);
+            for (const bool isOfCell : {false, true}) {
+                SCOPED_TRACE(testing::Message() << static_cast<int>(biometry) << describesUsage << isOfCell);
+                if (isOfCell)
+                    [contentView("Holidays") lockAlbum];
+                else
+                    photos::tapAlbum("Holidays");
+                settle();
+                EXPECT_EQ(isAskedForPassword(), !isEvaluated);
+                evaluations += isEvaluated ? 1 : 0;
+                EXPECT_EQ(unlockReasons().size(), evaluations);
+                EXPECT_FALSE(hasOpenedAlbum());
+                goBack();
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Biometrics,
+                         testing::Values(Release::ios8_4, Release::ios9_3, Release::ios10_3, Release::ios11_4,
+                                         Release::ios12_4));
+
+NSArray* noFields(id, SEL) { return @[]; }
+
+TEST_F(Unlocking, by_a_password_survives_an_alert_without_a_field) {
+    openLocked(1);
+    NSArray* (*original)(id, SEL) = nullptr;
+    replaceMethod("UIAlertController", @selector(textFields), &noFields, &original);
+    photos::tapAlbum("Holidays");
+    tapAlertAction("OK");
+    EXPECT_THAT(bannerTexts(), ElementsAre("No password set"));
+}
 
 TEST_F(Unlocking, touch_id_tells_which_album) {
     library().addAlbum("100% “us”");
