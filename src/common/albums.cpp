@@ -10,8 +10,12 @@ Owner<PHFetchOptions> optionsIncludingHidden() {
 
 PHAssetCollection albumWithTitle(NSString title) {
     if (!title) return PHAssetCollection();
+    const NSArray arguments = NSArray::arrayWithObject(title);
+    if (!arguments) return PHAssetCollection();
+    const NSPredicate hasTitle = NSPredicate::predicateWithFormat("title = %@"_ns, arguments);
+    if (!hasTitle) return PHAssetCollection(); // without it any album would do
     const Owner<PHFetchOptions> options = optionsIncludingHidden();
-    options->setPredicate(NSPredicate::predicateWithFormat("title = %@"_ns, NSArray::arrayWithObject(title)));
+    options->setPredicate(hasTitle);
     return cast<PHAssetCollection>(PHAssetCollection::fetchAssetCollections(
                                        PHAssetCollectionType::album, PHAssetCollectionSubtype::any, options)
                                        .firstObject());
@@ -39,8 +43,10 @@ Owner<NSMutableArray> regularAlbumTitles(PHFetchOptions options) {
 }
 
 PHAsset newestPhoto(PHFetchOptions options) {
-    options.setSortDescriptors(
-        NSArray::arrayWithObject(NSSortDescriptor::sortDescriptorWithKey("creationDate"_ns, true)));
+    const NSArray oldestFirst =
+        NSArray::arrayWithObject(NSSortDescriptor::sortDescriptorWithKey("creationDate"_ns, true));
+    if (!oldestFirst) return PHAsset(); // without an order the last photo is any photo
+    options.setSortDescriptors(oldestFirst);
     return cast<PHAsset>(PHAsset::fetchAssetsWithMediaType(PHAssetMediaType::image, options).lastObject());
 }
 

@@ -15,6 +15,11 @@ bool canHideAssets();
 // there and may be nil. Nil assets change nothing; failures are not reported.
 void apply(Photos state, NSArray assets, Block completion);
 
+// Shows, a second from now, those of the photos that are then hidden and in no album: nobody would find them
+// any more. For photos that are about to leave an album, beside showing them at once, which may be refused.
+// Main thread.
+void showStrandedLater(Owner<NSMutableArray> photos);
+
 // The photos of a selection, which may be any container and may change later, as an array of our own.
 Owner<NSMutableArray> photosIn(NSObject selection);
 

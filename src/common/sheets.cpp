@@ -16,7 +16,8 @@ Alert::Alert(UIAlertControllerStyle style, NSString title, NSString message)
     : controller_(UIAlertController::alertController(title, message, style)), style_(style) {}
 
 void Alert::addAction(NSString title, UIAlertActionStyle style, Block handler) {
-    controller_.addAction(UIAlertAction::actionWithTitle(title, style, handler));
+    const UIAlertAction action = UIAlertAction::actionWithTitle(title, style, handler);
+    if (action) controller_.addAction(action); // the platform raises for nil
 }
 
 void Alert::addCancel(NSString title) {

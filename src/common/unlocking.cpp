@@ -77,10 +77,12 @@ bool wouldEndApplication(LAContext context) {
 void askTouchId(UnlockFlow flow, NSObject asker, int purpose, NSString albumTitle) {
     const Owner<LAContext> context = make<LAContext>();
     constexpr LAPolicy policy = LAPolicy::deviceOwnerAuthenticationWithBiometrics;
-    if (context->canEvaluatePolicy(policy) && !wouldEndApplication(context)) {
-        const NSString title = albumTitle ? albumTitle : ""_ns;
+    const NSString title = albumTitle ? albumTitle : ""_ns;
+    const NSString reason = title.stringByAppendingString(" needs to be unlocked."_ns);
+    // The platform raises where there is no reason.
+    if (reason && context->canEvaluatePolicy(policy) && !wouldEndApplication(context)) {
         context->evaluatePolicy(
-            policy, title.stringByAppendingString(" needs to be unlocked."_ns),
+            policy, reason,
             block<void(bool, NSError)>(
                 [](UnlockFlow asked, NSObject who, int what, LAContext, bool success, NSError error) {
                     answerOfTouchId(asked, share(who), what, success, error);

@@ -1,9 +1,9 @@
 // Asking for authorisation before a locked album is opened or changed.
 //
 // All flows, the album list's, the album cell's and the Albums screen's, share this mechanism. What differs
-// between them, on purpose, is the table of policies in unlocking.cpp. An authorisation is for one action: the object that
-// asked receives `unlockAuthorised:` with the purpose that it named, and carries the interrupted action out.
-// Main thread.
+// between them, on purpose, is the table of policies in unlocking.cpp. An authorisation is for one action:
+// the object that asked receives `unlockAuthorised:` with the purpose that it named, and carries the
+// interrupted action out. Main thread.
 #pragma once
 
 #include "platform/uikit.h"

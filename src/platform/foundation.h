@@ -159,7 +159,9 @@ template <typename Element> FastEnumeration<Element> each(NSObject collection) {
 struct NSArray : NSObject {
     static constexpr FixedString className = "NSArray";
 
+    // Nil for nil, which the platform would raise for.
     static NSArray arrayWithObject(Object object) {
+        if (!object) return NSArray();
         return sendToClass<NSArray, "arrayWithObject:", NSArray>(cast<NSObject>(object));
     }
 

@@ -77,6 +77,12 @@ struct PHAsset : PHObject {
         return sendToClass<PHAsset, "fetchAssetsWithMediaType:options:", PHFetchResult>(type, options);
     }
 
+    // Without those in the trash.
+    static PHFetchResult fetchAssetsWithLocalIdentifiers(NSArray identifiers, PHFetchOptions options) {
+        return sendToClass<PHAsset, "fetchAssetsWithLocalIdentifiers:options:", PHFetchResult>(identifiers,
+                                                                                               options);
+    }
+
     bool isHidden() const { return send<PHAsset, "isHidden", bool>(*this); }
 };
 

@@ -47,6 +47,10 @@ PHFetchResult* fetch(const AssetFilter& filter, PHFetchOptions* options) {
     return fetch(simulator::filterOf(options), options);
 }
 
++ (PHFetchResult*)fetchAssetsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options {
+    return simulator::resultOf(assetsNamed(identifiers, simulator::filterOf(options)), options);
+}
+
 + (PHFetchResult*)fetchAssetsWithMediaType:(PHAssetMediaType)mediaType options:(PHFetchOptions*)options {
     AssetFilter filter = simulator::filterOf(options);
     filter.mediaType = static_cast<simulator::MediaType>(mediaType);

@@ -105,6 +105,8 @@ extern const CGSize PHImageManagerMaximumSize;
     BOOL _favorite;
 }
 + (PHFetchResult*)fetchAssetsWithOptions:(PHFetchOptions*)options;
+/// In the order of the identifiers; none of the trash.
++ (PHFetchResult*)fetchAssetsWithLocalIdentifiers:(NSArray*)identifiers options:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetsWithMediaType:(PHAssetMediaType)mediaType options:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection
                                        options:(PHFetchOptions*)options;

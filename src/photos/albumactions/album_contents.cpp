@@ -29,6 +29,7 @@ Owner<Block> ignoreCompletion() {
 // Before the removal a photo that will be in no album is still in this one.
 void removeSelectedAssets(PUPhotosAlbumViewController self, SEL command, Block completion) {
     apply(Photos::shown, assetsInFewerAlbumsThan(2, self.selectedAssets()), Block());
+    showStrandedLater(photosIn(self.selectedAssets()));
     original<removeSelectedAssets>(self, command, completion);
 }
 

@@ -27,12 +27,14 @@ bool completeDelete() {
     const Owner<NSString> title = pendingDeleteAlbumTitle.take();
     const Owner<NSMutableArray> orphans = pendingDeleteOrphanAssets.take();
     if (orphans->count() > 0) apply(Photos::shown, orphans.get(), Block());
+    showStrandedLater(pendingDeletePhotos.take());
     return true;
 }
 
 void dropDelete() {
     pendingDeleteAlbumTitle.clear();
     pendingDeleteOrphanAssets.clear();
+    pendingDeletePhotos.clear();
 }
 
 // The library may take longer to delete an album than a person to end editing, so an album that is still
@@ -69,6 +71,7 @@ void performDeleteAction(PUAlbumListViewController self, SEL command, PUAlbumLis
     original<performDeleteAction>(self, command, contentView, sender);
     pendingDeleteAlbumTitle.set(title);
     pendingDeleteOrphanAssets.set(orphansOf(title));
+    pendingDeletePhotos.set(photosIn(assetsOf(albumWithTitle(contentView.title()))));
     pendingDeleteOutlivedEditing = false;
 }
 

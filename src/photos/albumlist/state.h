@@ -21,6 +21,8 @@ inline constinit MainThreadGlobal<NSObject> pendingDeleteAction;
 // A delete on its way to the end of editing: the album, and its photos that are in no other album.
 inline constinit MainThreadGlobal<NSString> pendingDeleteAlbumTitle;
 inline constinit MainThreadGlobal<NSMutableArray> pendingDeleteOrphanAssets;
+// All of its photos, for a last look at what became of them.
+inline constinit MainThreadGlobal<NSMutableArray> pendingDeletePhotos;
 // Editing has ended once and the album was still there.
 inline constinit bool pendingDeleteOutlivedEditing = false;
 
