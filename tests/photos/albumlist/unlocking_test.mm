@@ -214,6 +214,7 @@ TEST_P(Biometrics, are_asked_where_the_device_has_them_and_the_application_may) 
                 EXPECT_EQ(unlockReasons().size(), evaluations);
                 EXPECT_FALSE(hasOpenedAlbum());
                 goBack();
+                photos::openAlbumList();
             }
         }
     }
