@@ -56,6 +56,28 @@ buildPreset() {
     fi
 }
 
+# What runs on a simulated device: the phone's own file under emulation, or the Linux build.
+useArm64() {
+    configuration=arm64
+    emulator="qemu-aarch64-static -L $PWD/$sysroot"
+    library=build/ios/rollkeeper.dylib
+    deviceFiles=build/ios/device-files
+}
+useNative() {
+    configuration=release
+    emulator=
+    library=build/release/lib/librollkeeper.so
+    deviceFiles=build/release/device-files
+}
+
+# Builds it, the host applications and the programs named.
+buildPrograms() {
+    programs=build/$configuration/bin
+    buildPreset ios
+    if [[ $configuration == release ]]; then set -- "$@" rollkeeper device_files; fi
+    buildPreset "$configuration" host "$@"
+}
+
 passed=0
 failed=0
 count() { if "$@"; then passed=$((passed + 1)); else failed=$((failed + 1)); fi; }

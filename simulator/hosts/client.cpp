@@ -41,6 +41,10 @@ std::string describeEnd(int status) {
 
 } // namespace
 
+template <class Error> void HostProcess::fail(const std::string& what) const {
+    throw Error(m_options.bundleIdentifier + ": " + what);
+}
+
 HostProcess::HostProcess(HostProcessOptions options) : m_options(std::move(options)) {
     std::error_code ignored;
     std::filesystem::remove(controlSocketOf(m_options.device, m_options.bundleIdentifier), ignored);
@@ -87,9 +91,9 @@ void HostProcess::connect() {
 nlohmann::json HostProcess::call(const char* verb) { return call(nlohmann::json{{"do", verb}}); }
 
 nlohmann::json HostProcess::call(const nlohmann::json& request) {
-    if (!sendAll(m_socket, request.dump() + "\n")) fail("does not take " + request.dump());
-    const auto line = receiveLine(m_socket, m_received);
-    if (!line) fail("no answer to " + request.dump());
+    const auto line =
+        sendAll(m_socket, request.dump() + "\n") ? receiveLine(m_socket, m_received) : std::nullopt;
+    if (!line) fail<HostLost>("no answer to " + request.dump());
     nlohmann::json answer = nlohmann::json::parse(*line);
     if (answer.is_object() && answer.contains("error")) fail(answer["error"].get<std::string>());
     return answer;
@@ -113,10 +117,6 @@ void HostProcess::kill() {
 bool HostProcess::isRunning() {
     if (m_process >= 0 && waitpid(m_process, &m_endStatus, WNOHANG) == m_process) m_process = -1;
     return m_process >= 0;
-}
-
-void HostProcess::fail(const std::string& what) const {
-    throw std::runtime_error(m_options.bundleIdentifier + ": " + what);
 }
 
 bool HostProcess::waitUntil(const std::function<bool()>& condition) const {

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,11 @@ struct HostProcessOptions {
     double timeout = 20; // seconds to get ready, and for each call
 };
 
+// The host does not answer, or has ended by itself: there is no more talking to it.
+struct HostLost : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 // A running host; it ends with this object at the latest. Every failure is a std::runtime_error that names
 // the host.
 class HostProcess {
@@ -32,7 +38,8 @@ class HostProcess {
     HostProcess(HostProcess&& other) noexcept;
     HostProcess& operator=(HostProcess&&) = delete;
 
-    // Sends {"do": verb, ...}, waits for the answer; throws what the host reports as {"error": text}.
+    // Sends {"do": verb, ...}, waits for the answer; throws what the host reports as {"error": text}, and
+    // HostLost when none comes.
     nlohmann::json call(const nlohmann::json& request);
     nlohmann::json call(const char* verb);
 
@@ -44,7 +51,7 @@ class HostProcess {
   private:
     void start();
     void connect();
-    [[noreturn]] void fail(const std::string& what) const;
+    template <class Error = std::runtime_error> [[noreturn]] void fail(const std::string& what) const;
     // Looks every few milliseconds; false after the time-out.
     bool waitUntil(const std::function<bool()>& condition) const;
 

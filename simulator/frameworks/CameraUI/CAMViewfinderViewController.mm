@@ -71,6 +71,8 @@ UIImage* pictureOfNewestPhoto() {
     _imageWell = [[CAMImageWell alloc] initWithFrame:CGRectMake(0, 0, imageWellSide, imageWellSide)];
     [_imageWell setClipsToBounds:YES];
     _shutterButton = [[UIButton buttonWithType:UIButtonTypeCustom] retain];
+    [_shutterButton setAccessibilityLabel:@"Take Picture"];
+    [_imageWell setAccessibilityLabel:@"Newest Photo"];
     [_shutterButton setBounds:CGRectMake(0, 0, shutterSide, shutterSide)];
     [_shutterButton setBackgroundColor:[UIColor whiteColor]];
     [[_shutterButton layer] setCornerRadius:shutterSide / 2];

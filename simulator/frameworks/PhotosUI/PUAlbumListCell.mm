@@ -134,6 +134,7 @@ constexpr CGRect deleteButtonFrame = {{-6, -6}, {29, 29}};
         [_deleteButton setTintColor:[UIColor whiteColor]];
         [_deleteButton setImage:[UIImage imageWithOutline:simulator::outline::cross]
                        forState:UIControlStateNormal];
+        [_deleteButton setAccessibilityLabel:@"Delete"];
         [_deleteButton addTarget:self
                           action:@selector(_deleteAction:)
                 forControlEvents:UIControlEventTouchUpInside];

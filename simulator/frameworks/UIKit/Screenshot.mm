@@ -112,19 +112,35 @@ std::string wordsIn(UIView* view) {
     UITextField* field = as<UITextField>(view);
     std::string words = label != nil ? text([label text]) : field != nil ? shownText(field) : "";
     for (UIView* subview in [view subviews]) {
-        if ([subview isHidden] || as<UIControl>(subview) != nil) continue;
+        const bool isOnItsOwn = as<UIControl>(subview) != nil && as<UITextField>(subview) == nil;
+        if ([subview isHidden] || isOnItsOwn) continue;
         const std::string more = wordsIn(subview);
         words += (words.empty() || more.empty() ? "" : ", ") + more;
     }
     return words;
 }
 
-std::string labelOf(UIControl* control) {
+UIImage* imageIn(UIView* view) {
+    UIImage* image = [as<UIImageView>(view) image];
+    for (UIView* subview in [view subviews])
+        if (image == nil) image = imageIn(subview);
+    return image;
+}
+
+// What a control says, or else its picture's name, and in whose row it stands.
+std::string labelOf(UIView* control) {
     std::string words = wordsIn(control);
-    // A switch is called what its row says.
-    if (words.empty() && as<UISwitch>(control) != nil) words = wordsIn([control superview]);
+    if (words.empty()) words = text([control accessibilityLabel]);
+    NSString* picture = [[[imageIn(control) fileName] stringByDeletingPathExtension]
+        stringByReplacingOccurrencesOfString:@"@2x"
+                                  withString:@""];
+    if (words.empty()) words = text(picture);
     if (words.empty()) words = text(NSStringFromClass([control class]));
-    return words;
+    UIView* row = control;
+    while (row != nil && as<ListCell>(row) == nil)
+        row = [row superview];
+    if (row == nil) return words;
+    return as<UISwitch>(control) != nil ? wordsIn(row) : words + ", " + wordsIn(row);
 }
 
 // Whether a finger can act on the view itself: a control, a cell or something with gestures of its own.
@@ -141,6 +157,8 @@ void addSpot(SvgCanvas& canvas, UIView* view) {
         canvas.spot(bounds, {.view = view, .kind = "cell", .label = wordsIn(view)});
     else if (UINavigationBar* bar = as<UINavigationBar>(view))
         canvas.spot(bounds, {.view = view, .kind = "bar", .label = text([[bar topItem] title])});
+    else if ([[view gestureRecognizers] count] > 0)
+        canvas.spot(bounds, {.view = view, .kind = "button", .label = labelOf(view)});
 }
 
 void draw(SvgCanvas& canvas, UIView* view) {

@@ -40,6 +40,7 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
     UIColor* _backgroundColor;
     UIColor* _tintColor;
     UIViewContentMode _contentMode;
+    NSString* _accessibilityLabel;
     NSMutableArray* _gestureRecognizers;
     NSInteger _tag;
     CGFloat _alpha;
@@ -85,6 +86,8 @@ typedef NS_ENUM(NSInteger, UIViewContentMode) {
 @property (nonatomic, retain) UIColor* tintColor;
 // How a picture of other proportions is fitted in.
 @property (nonatomic) UIViewContentMode contentMode;
+// What a reader of screens says of a view that shows no words.
+@property (nonatomic, copy) NSString* accessibilityLabel;
 @property (nonatomic, getter=isUserInteractionEnabled) BOOL userInteractionEnabled;
 
 @property (nonatomic) UIViewAutoresizing autoresizingMask;

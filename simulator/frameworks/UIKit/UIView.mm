@@ -45,10 +45,10 @@ void simulator::layoutWindows() {
 
 @synthesize bounds = _bounds, center = _center, tag = _tag, superview = _superview, hidden = _hidden,
             alpha = _alpha, opaque = _opaque, backgroundColor = _backgroundColor, tintColor = _tintColor,
-            contentMode = _contentMode, userInteractionEnabled = _userInteractionEnabled,
-            autoresizingMask = _autoresizingMask, autoresizesSubviews = _autoresizesSubviews,
-            gestureRecognizers = _gestureRecognizers, viewController = _viewController,
-            animationsWithoutTouches = _animationsWithoutTouches;
+            contentMode = _contentMode, accessibilityLabel = _accessibilityLabel,
+            userInteractionEnabled = _userInteractionEnabled, autoresizingMask = _autoresizingMask,
+            autoresizesSubviews = _autoresizesSubviews, gestureRecognizers = _gestureRecognizers,
+            viewController = _viewController, animationsWithoutTouches = _animationsWithoutTouches;
 
 - (instancetype)init {
     return [self initWithFrame:CGRectZero];
@@ -74,6 +74,7 @@ void simulator::layoutWindows() {
     [_layer release];
     [_backgroundColor release];
     [_tintColor release];
+    [_accessibilityLabel release];
     [_gestureRecognizers release];
     [super dealloc];
 }

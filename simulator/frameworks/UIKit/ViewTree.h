@@ -69,7 +69,7 @@ void pinchAt(CGPoint point);
 void hardPressAt(CGPoint point);
 // Drags what can be scrolled there, so that the content moves on by so many points, as far as there is more.
 void scrollAt(CGPoint point, CGSize distance);
-// The screen has another size or orientation: its window follows.
+// Where the screen has another size or orientation than the window, the window follows.
 void followScreen();
 
 // The button with that title in the bars of the front controller.

@@ -147,6 +147,7 @@ void scrollAt(CGPoint point, CGSize distance) {
 void followScreen() {
     const CGRect bounds = [[UIScreen mainScreen] bounds];
     UIWindow* window = [[UIApplication sharedApplication] keyWindow];
+    if (CGRectEqualToRect([window frame], bounds)) return;
     [[window rootViewController] viewWillTransitionToSize:bounds.size withTransitionCoordinator:nil];
     [window setFrame:bounds];
     for (UIView* view in [window subviews])
