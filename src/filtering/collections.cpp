@@ -1,7 +1,7 @@
 #include "common/albums.h"
 #include "common/process_identity.h"
-#include "filtering/hooks.h"
 #include "common/smart_albums.h"
+#include "filtering/hooks.h"
 #include "objc/autorelease_pool.h"
 #include "objc/replacement.h"
 #include "platform/core_foundation.h"

@@ -1,6 +1,6 @@
 #include "common/albums.h"
-#include "filtering/hooks.h"
 #include "common/smart_albums.h"
+#include "filtering/hooks.h"
 #include "objc/replacement.h"
 #include "settings/settings.h"
 #include "state/locked_albums.h"
