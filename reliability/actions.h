@@ -9,7 +9,4 @@ namespace reliability {
 
 const std::vector<Action>& actions();
 
-// Applications that the library is loaded into.
-const std::vector<Action>& loads();
-
 } // namespace reliability

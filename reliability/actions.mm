@@ -163,12 +163,7 @@ const std::vector<Action>& actions() {
         {.name = "share into an album", .application = bundle::plain, .preferences = movesShared, .perform = share,
          .isDone = [](World& world) { return world.newestIsMovedTo("Pets"); }, .mayHideWithoutAdding = true},
         {.name = "write a file", .application = bundle::springBoard, .perform = sendList, .isDone = isLocked},
-    };
-    return all;
-}
-
-const std::vector<Action>& loads() {
-    static const auto& all = *new std::vector<Action>{
+        // Without anything to perform: what is tried is the load itself.
         {.name = "load in Photos", .application = bundle::photos},       {.name = "load in Camera", .application = bundle::camera},
         {.name = "load in SpringBoard", .application = bundle::springBoard}, {.name = "load in Settings", .application = bundle::settings},
         {.name = "load in Messenger", .application = bundle::messenger}, {.name = "load in WhatsApp", .application = bundle::whatsApp},

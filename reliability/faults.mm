@@ -191,9 +191,8 @@ bool runs(const Action& action, std::size_t step) {
 
 int runAll(std::size_t step, const std::vector<std::string>& names) {
     std::vector<const Action*> chosen;
-    for (const auto* list : {&actions(), &loads()})
-        for (const Action& each : *list)
-            if (names.empty() || std::ranges::find(names, each.name) != names.end()) chosen.push_back(&each);
+    for (const Action& each : actions())
+        if (names.empty() || std::ranges::find(names, each.name) != names.end()) chosen.push_back(&each);
     std::size_t next = 0, failed = 0;
     std::size_t running = 0;
     const auto workers = static_cast<std::size_t>(sysconf(_SC_NPROCESSORS_ONLN));

@@ -23,7 +23,7 @@ struct Action {
     Texts locked = {};
     Numbers hidden = {};
     void (*prepare)(World&) = [](World&) {}; // what comes before it
-    void (*perform)(World&) = nullptr;
+    void (*perform)(World&) = nullptr;       // without it the load is what is tried
     bool (*isDone)(World&) = nullptr;
     const char* deletedAlbum = nullptr; // the one that the person deletes
     bool mayHideWithoutAdding = false;  // a photo is hidden although adding it was refused
