@@ -34,6 +34,10 @@ constexpr Choice<Size> sizes[] = {
     {"large", "Large", {414, 736, 3, Idiom::phone}},
     {"pad", "Pad", {768, 1024, 2, Idiom::pad}},
 };
+constexpr Choice<Biometry> sensors[] = {
+    {"touchId", "Touch ID", Biometry::touchId},
+    {"faceId", "Face ID", Biometry::faceId},
+};
 constexpr Choice<BiometricOutcome> fingers[] = {
     {"right", "Right", BiometricOutcome::success},
     {"wrong", "Wrong", BiometricOutcome::failed},
@@ -99,6 +103,7 @@ void Phone::writeConditions() {
     conditions.screen = {size.width, size.height, size.scale};
     if (m_settings.landscape) std::swap(conditions.screen.width, conditions.screen.height);
     conditions.idiom = size.idiom;
+    conditions.biometry = choiceNamed(sensors, m_settings.sensor).value;
     conditions.biometricOutcome = choiceNamed(fingers, m_settings.finger).value;
     conditions.hooking.callsNoted = true;
     m_device.setConditions(conditions);
@@ -185,6 +190,7 @@ void Phone::set(const json& change) {
         wanted.release = *release;
     }
     wanted.size = choiceNamed(sizes, change.value("size", wanted.size)).name;
+    wanted.sensor = choiceNamed(sensors, change.value("sensor", wanted.sensor)).name;
     wanted.finger = choiceNamed(fingers, change.value("finger", wanted.finger)).name;
     wanted.landscape = change.value("landscape", wanted.landscape);
     wanted.library = change.value("library", wanted.library);
@@ -240,10 +246,15 @@ json Phone::look() {
         {"settings",
          {{"release", releaseName(m_settings.release)},
           {"size", m_settings.size},
+          {"sensor", m_settings.sensor},
           {"finger", m_settings.finger},
           {"landscape", m_settings.landscape},
           {"library", m_settings.library}}},
-        {"choices", {{"release", releaseLabels()}, {"size", labelsOf(sizes)}, {"finger", labelsOf(fingers)}}},
+        {"choices",
+         {{"release", releaseLabels()},
+          {"size", labelsOf(sizes)},
+          {"sensor", labelsOf(sensors)},
+          {"finger", labelsOf(fingers)}}},
         {"photos", photosOf(*m_photos)},
         {"files", filesOf(m_device)},
         {"hooks", hooks},

@@ -53,6 +53,7 @@ class Phone {
     struct Settings {
         Release release = Release::ios10_3;
         std::string size = "medium";
+        std::string sensor = "touchId";
         std::string finger = "right";
         bool landscape = false;
         bool library = true;

@@ -3,7 +3,7 @@ import { showPanels } from "./panels.js";
 import { Phone } from "./phone.js";
 
 const element = (id) => document.getElementById(id);
-const choices = ["release", "size"];
+const choices = ["release", "size", "sensor"];
 let noticeNumber = 0;
 
 function tell(text) {
