@@ -12,6 +12,7 @@ namespace {
 class Options {
   public:
     explicit Options(PHFetchOptions given) : options_(given ? share(given) : make<PHFetchOptions>()) {}
+    bool includeHidden() const { return options_->includeHiddenAssets(); }
     void includeHidden(bool include) const { options_->setIncludeHiddenAssets(include); }
     operator PHFetchOptions() const { return options_; }
 
@@ -31,9 +32,12 @@ bool keepsMovedPhotosToItself(PHAssetCollection album) {
     return title && lockedAlbums::reread()->containsObject(title) && !isProcess(bundle::photos());
 }
 
-bool showsMovedPhotos(PHObject collection) {
-    return isOfType(collection, PHAssetCollectionType::album) &&
-           !keepsMovedPhotosToItself(cast<PHAssetCollection>(collection));
+// Options that ask for moved photos get them whatever the list says, so it is not read then; but in Photos,
+// whose album list goes by the copy in memory.
+bool showsMovedPhotos(PHObject collection, const Options& options) {
+    if (!isOfType(collection, PHAssetCollectionType::album)) return false;
+    const bool isAsked = options.includeHidden() && !isProcess(bundle::photos());
+    return isAsked || !keepsMovedPhotosToItself(cast<PHAssetCollection>(collection));
 }
 
 } // namespace
@@ -49,7 +53,7 @@ PHFetchResult fetchAssetsInCollection(NSObject self, SEL command, PHObject colle
     const Options options(given);
     if (isOfType(collection, PHAssetCollectionType::smartAlbum)) {
         options.includeHidden(false);
-    } else if (isOfType(collection, PHAssetCollectionType::moment) || showsMovedPhotos(collection)) {
+    } else if (isOfType(collection, PHAssetCollectionType::moment) || showsMovedPhotos(collection, options)) {
         options.includeHidden(true);
     }
     return original<fetchAssetsInCollection>(self, command, collection, PHFetchOptions(options));

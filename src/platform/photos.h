@@ -39,6 +39,9 @@ struct PHFetchOptions : NSObject {
     void setIncludeHiddenAssets(bool include) const {
         send<PHFetchOptions, "setIncludeHiddenAssets:", void>(*this, include);
     }
+    [[nodiscard]] bool includeHiddenAssets() const {
+        return send<PHFetchOptions, "includeHiddenAssets", bool>(*this);
+    }
     void setPredicate(NSPredicate predicate) const {
         send<PHFetchOptions, "setPredicate:", void>(*this, predicate);
     }
