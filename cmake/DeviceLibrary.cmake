@@ -17,6 +17,9 @@ function(add_device_library name)
     target_compile_options(${objects} PRIVATE ${options})
     target_link_libraries(${objects} PRIVATE warnings)
     target_precompile_headers(${objects} PRIVATE "${CMAKE_SOURCE_DIR}/src/platform/photos_ui.h")
+    if(ROLLKEEPER_COVERAGE)
+        count_coverage(${name})
+    endif()
     if(NOT ROLLKEEPER_PHONE)
         return()
     endif()
@@ -51,4 +54,13 @@ function(add_device_library name)
         DEPENDS "${linked}" ${stubs} "${signer}"
         COMMENT "Linking ${device_FILE} for the phone")
     add_custom_target(${name} ALL DEPENDS "${library}")
+endfunction()
+
+# Which lines and branches are reached is counted in the file profiles/TARGET-*. It is mapped from the start, so that a
+# process that is killed loses nothing.
+function(count_coverage target)
+    target_compile_options(${target} PRIVATE -fcoverage-mapping "SHELL:-mllvm -runtime-counter-relocation"
+        "-fprofile-instr-generate=${CMAKE_BINARY_DIR}/profiles/${target}-%c%m")
+    target_link_options(${target} PRIVATE -fprofile-instr-generate)
+    target_sources(${target} PRIVATE "${CMAKE_SOURCE_DIR}/reliability/count_from_load.cpp")
 endfunction()

@@ -3,7 +3,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 sysroot=build/sysroot-arm64
-presets=(sanitize release tsan arm64 ios)
+presets=(sanitize release coverage tsan arm64 ios)
 
 if command -v ccache >/dev/null; then
     export CCACHE_SLOPPINESS=pch_defines,time_macros # it asks for this where headers are precompiled
