@@ -1,5 +1,6 @@
 // The program `page`: a device with its applications, and a page on this machine that shows it and acts on
 // it. SIGINT, SIGTERM and SIGHUP end it, with all that belongs to it.
+#include "device/temporary_folder.h"
 #include "page/server.h"
 
 #include <signal.h>
@@ -7,12 +8,12 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <sstream>
 #include <thread>
 
 namespace {
 
 using namespace simulator::page;
+using simulator::Programs;
 
 constexpr const char* usage = "usage: page --library FILE --host PROGRAM --device-files FOLDER --page-files "
                               "FOLDER [--emulator COMMAND] "
@@ -31,17 +32,9 @@ std::optional<Options> parse(int count, char** arguments) {
     for (int index = 1; index + 1 < count; index += 2) {
         const std::string name = arguments[index];
         const std::string value = arguments[index + 1];
-        if (name == "--library") {
-            options.programs.library = std::filesystem::absolute(value);
-        } else if (name == "--host") {
-            options.programs.host = std::filesystem::absolute(value);
-        } else if (name == "--device-files") {
-            options.programs.deviceFiles = std::filesystem::absolute(value);
-        } else if (name == "--page-files") {
+        if (options.programs.take(name, value)) continue;
+        if (name == "--page-files") {
             options.pageFiles = value;
-        } else if (name == "--emulator") {
-            std::istringstream words(value);
-            options.programs.emulator = {std::istream_iterator<std::string>(words), {}};
         } else if (name == "--port") {
             char* end = nullptr;
             const long port = std::strtol(value.c_str(), &end, 10);
@@ -57,26 +50,6 @@ std::optional<Options> parse(int count, char** arguments) {
     return isComplete ? std::optional(options) : std::nullopt;
 }
 
-// A folder that goes with this object.
-class TemporaryFolder {
-  public:
-    TemporaryFolder()
-        : m_path((std::filesystem::temp_directory_path() / "rollkeeper-device-XXXXXX").string()) {
-        if (mkdtemp(m_path.data()) == nullptr)
-            throw std::runtime_error("cannot make a folder for the device");
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    const std::string& path() const { return m_path; }
-
-  private:
-    std::string m_path;
-};
-
 sigset_t endSignals() {
     sigset_t signals;
     sigemptyset(&signals);
@@ -87,7 +60,7 @@ sigset_t endSignals() {
 
 void run(const Options& options) {
     const sigset_t ends = endSignals();
-    const TemporaryFolder folder;
+    const simulator::TemporaryFolder folder;
     Phone phone(options.programs, folder.path());
     Desk desk(phone);
     Server server(desk, options.pageFiles);

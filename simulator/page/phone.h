@@ -4,6 +4,7 @@
 
 #include "device/device.h"
 #include "hosts/client.h"
+#include "hosts/programs.h"
 #include "photolibrary/library.h"
 
 #include <nlohmann/json.hpp>
@@ -17,13 +18,6 @@
 #include <vector>
 
 namespace simulator::page {
-
-struct Programs {
-    std::filesystem::path host;
-    std::filesystem::path library;
-    std::filesystem::path deviceFiles; // what the package installs, as a tree
-    std::vector<std::string> emulator; // the command that runs the host, empty for none
-};
 
 // What was asked for makes no sense; it changed nothing.
 struct BadRequest : std::runtime_error {

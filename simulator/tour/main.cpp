@@ -1,20 +1,19 @@
 // The tour: the library at work on a simulated device, step by step, for a person to read. It ends by itself,
 // with a status other than 0 when anything went wrong.
+#include "device/temporary_folder.h"
 #include "tour/pictures.h"
 #include "tour/scenarios.h"
-#include "tour/temporary_folder.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <optional>
-#include <sstream>
 
 namespace {
 
 using namespace simulator::tour;
+using simulator::Programs, simulator::TemporaryFolder;
 
 constexpr const char* usage =
     "usage: tour --library FILE --host PROGRAM --device-files FOLDER [--emulator COMMAND] [OPTION]\n"
@@ -37,16 +36,8 @@ std::optional<Options> parse(int count, char** arguments) {
     for (int index = 1; index + 1 < count; index += 2) {
         const std::string name = arguments[index];
         const std::string value = arguments[index + 1];
-        if (name == "--library") {
-            options.programs.library = std::filesystem::absolute(value);
-        } else if (name == "--host") {
-            options.programs.host = std::filesystem::absolute(value);
-        } else if (name == "--device-files") {
-            options.programs.deviceFiles = std::filesystem::absolute(value);
-        } else if (name == "--emulator") {
-            std::istringstream words(value);
-            options.programs.emulator = {std::istream_iterator<std::string>(words), {}};
-        } else if (name == "--story") {
+        if (options.programs.take(name, value)) continue;
+        if (name == "--story") {
             options.story = value;
         } else if (name == "--pictures") {
             options.pictures = value;

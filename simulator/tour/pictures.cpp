@@ -1,8 +1,8 @@
 #include "tour/pictures.h"
+#include "device/temporary_folder.h"
 
 #include "hosts/applications/bundle_identifiers.h"
 #include "tour/screen.h"
-#include "tour/temporary_folder.h"
 
 #include <fstream>
 

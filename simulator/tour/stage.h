@@ -4,6 +4,7 @@
 
 #include "device/device.h"
 #include "hosts/client.h"
+#include "hosts/programs.h"
 #include "photolibrary/library.h"
 #include "tour/chronicle.h"
 
@@ -25,13 +26,6 @@ inline constexpr const char* passwordFile = "/var/mobile/Library/rollkeeper/sett
 // Something did not happen as it should.
 struct TourFailure : std::runtime_error {
     using std::runtime_error::runtime_error;
-};
-
-struct Programs {
-    std::filesystem::path host;
-    std::filesystem::path library;
-    std::vector<std::string> emulator;
-    std::filesystem::path deviceFiles; // what the package installs, as a tree
 };
 
 class Stage {

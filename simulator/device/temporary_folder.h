@@ -7,12 +7,12 @@
 
 #include <stdlib.h>
 
-namespace simulator::tour {
+namespace simulator {
 
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "rollkeeper-tour-XXXXXX").string();
+        std::string path = (std::filesystem::temp_directory_path() / "rollkeeper-device-XXXXXX").string();
         if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no folder for a device");
         m_path = path;
     }
@@ -29,4 +29,4 @@ class TemporaryFolder {
     std::filesystem::path m_path;
 };
 
-} // namespace simulator::tour
+} // namespace simulator
