@@ -78,6 +78,13 @@ buildPrograms() {
     buildPreset "$configuration" host "$@"
 }
 
+# Runs the tour on them. The emulator's command is meant to fall apart into words.
+# shellcheck disable=SC2086
+tour() {
+    $emulator "$programs/tour" --library "$library" --host "$programs/host" --device-files "$deviceFiles" "$@" \
+        ${emulator:+--emulator "$emulator"}
+}
+
 passed=0
 failed=0
 count() { if "$@"; then passed=$((passed + 1)); else failed=$((failed + 1)); fi; }
