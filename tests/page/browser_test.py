@@ -5,6 +5,7 @@ import re
 import unittest
 
 from selenium import webdriver
+from selenium.common.exceptions import StaleElementReferenceException
 from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import WebDriverWait
@@ -77,14 +78,24 @@ class Page(Browser):
         """What can be touched under that name, alone or before a comma; None without one."""
         return next((spot for name, spot in self.touchable().items() if f"{name}, ".startswith(f"{label}, ")), None)
 
+    def act_on(self, label, action):
+        """A spot that is drawn anew between the look and the act is looked for again."""
+
+        def attempt():
+            spot = self.spot(label)
+            try:
+                return spot is not None and (action(spot), True)
+            except StaleElementReferenceException:
+                return False
+
+        self.wait(f"{label} on the screen", attempt)
+
     def touch(self, label):
-        self.wait(f"{label} on the screen", lambda: self.spot(label))
-        self.spot(label).click()
+        self.act_on(label, lambda spot: spot.click())
 
     def choose(self, label):
         """The same with the keyboard, where a click that a busy machine draws out would be a long press."""
-        self.wait(f"{label} on the screen", lambda: self.spot(label))
-        self.spot(label).send_keys(Keys.ENTER)
+        self.act_on(label, lambda spot: spot.send_keys(Keys.ENTER))
 
     def scroll_to(self, label):
         for _ in range(most_scrolls):
