@@ -79,6 +79,7 @@ TEST_F(CameraButton, keeps_its_place_on_later_passes_and_changes_the_text_alone)
     [albumLabel() setNumberOfLines:3];
     [bar() setFrame:CGRectMake(0, 500, 700, 160)];
     camera::addDrawButton();
+    camera::addDrawButton();
     EXPECT_EQ(text([albumLabel() text]), "Family");
     EXPECT_EQ([albumImage() frame], CGRectMake(1, 2, 3, 4));
     EXPECT_EQ([albumLabel() frame], CGRectMake(5, 6, 7, 8));

@@ -21,7 +21,7 @@ void handleLongPress(PUAlbumListViewController self, SEL, UIGestureRecognizer pr
     const Owner<UIGestureRecognizer> recognizer = share(pressed);
     const Owner<NSMutableArray> titles = lockedAlbums::rereadOrEmpty();
     const NSString title = contentViewOf(recognizer->view()).title();
-    if (!title || !titles->containsObject(title)) {
+    if (!titles->containsObject(title)) {
         if (title.length() == 0) return;
         titles->addObject(title);
     } else if (unlockGranted) {

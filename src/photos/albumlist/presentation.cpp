@@ -100,7 +100,7 @@ void decorate(PUAlbumListCellContentView contentView) {
     showCountAsSubtitle(contentView, title);
     takeThumbnailSideFromLayout(contentView);
     const Owner<NSMutableArray> lockedTitles = lockedAlbums::reread();
-    updateLockOverlay(contentView, title && lockedTitles->containsObject(title), albumListCover());
+    updateLockOverlay(contentView, lockedTitles->containsObject(title), albumListCover());
 }
 
 } // namespace

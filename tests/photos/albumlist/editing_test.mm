@@ -166,6 +166,21 @@ TEST_F(AlbumDeletion, of_a_second_album_forgets_the_first_and_happens_once) {
     endEditing({0, 1, 2, 6});
 }
 
+// The look one second after the end of editing is for the delete of before.
+TEST_F(AlbumDeletion, that_follows_at_once_waits_for_its_own_end_of_editing) {
+    useManualClock();
+    change([](Conditions& conditions) { conditions.albumDeletionTime = 0.2; });
+    startEditing();
+    photos::tapDeleteAlbum("Holidays");
+    tapAlertAction("Cancel");
+    endEditing({0, 1, 2, 6});
+    photos::setEditing(true);
+    deleteAlbum("Work", false);
+    pass(1.1);
+    EXPECT_EQ(hiddenNumbers(), (Numbers{0, 1, 2, 6})) << "returned before editing ended";
+    endEditing({0, 1, 2});
+}
+
 TEST_F(AlbumDeletion, of_a_locked_album_asks_for_authorisation_each_time) {
     startEditing({{"passOption", 2}}, {"Holidays"});
     photos::tapDeleteAlbum("Holidays");

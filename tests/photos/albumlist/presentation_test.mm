@@ -176,6 +176,8 @@ TEST_F(AlbumListPresentation, only_a_missing_list_is_created) {
         {"no property list", "{", false, {}},
         {"unreadable", "{", true, {}},
     };
+    device().writePropertyList("/var/mobile/Library/rollkeeper/lockedAlbumsPaths.plist",
+                               {{"of", "no use yet"}});
     PUAlbumListViewController* list = openAlbumList({}, {"Holidays"});
     recordRequests();
     for (const auto& each : cases) {
