@@ -7,6 +7,9 @@
 #include "lost_calls.h"
 
 #include "device/exceptions.h"
+#include "device/temporary_folder.h"
+#include "photolibrary/samples.h"
+#include "support/environment.h"
 
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -144,28 +147,35 @@ int exitStatusOf(const std::function<void()>& work) {
     return child > 0 && waitpid(child, &status, 0) == child ? status : -1;
 }
 
-// Hooks are installed once per process, so every fault of a load has its own.
+// Hooks are installed once per process, so every fault of a load has its own; all of them share a device.
 void tryLoad(const Action& action, Progress& progress, std::size_t step) {
+    const simulator::TemporaryFolder folder;
+    const auto prepare = [&] { // a connection to the photo library is not carried over a fork
+        addSmallSample(*simulator::PhotoLibrary::open(simulator::Device::create(folder.path())));
+    };
+    const auto load = [&](std::size_t lost) {
+        const simulator::Host host({.bundleIdentifier = action.application,
+                                    .device = folder.path(),
+                                    .library = simulator::test::libraryFile(),
+                                    .beforeLoading = [lost] { countCalls(lost); }});
+        simulator::Host::drain();
+        return stopCounting();
+    };
     int pipeEnds[2];
-    if (pipe(pipeEnds) != 0) throw std::runtime_error("no pipe");
-    std::vector<Call> calls;
+    if (exitStatusOf(prepare) != 0 || pipe(pipeEnds) != 0) throw std::runtime_error("no device");
     exitStatusOf([&] {
-        const World world(action, [] { countCalls(); });
-        for (const Call& call : stopCounting())
+        for (const Call& call : load(0))
             dprintf(pipeEnds[1], "%s\n", call.name.c_str());
     });
     close(pipeEnds[1]);
     FILE* names = fdopen(pipeEnds[0], "r");
+    std::vector<Call> calls;
     for (char line[256]; std::fgets(line, sizeof line, names) != nullptr;)
         calls.push_back({.name = std::string(line, std::strcspn(line, "\n"))});
     std::fclose(names);
     if (calls.empty()) throw std::runtime_error(std::string(action.name) + " fails without a fault");
     tryAll(calls, progress, step, [&] {
-        const int status = exitStatusOf([&] {
-            World world(action, [&] { countCalls(progress.next); });
-            stopCounting();
-            world.calmDown();
-        });
+        const int status = exitStatusOf([&] { load(progress.next); });
         ++progress.faults;
         if (status != 0) tellBroken(action, progress, "ends with status " + std::to_string(status));
     });

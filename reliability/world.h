@@ -44,7 +44,7 @@ class World : public simulator::test::PhotosTest {
     using PhotosTest::settle;
 
     // Starts the application. Files are written for it within this process, unless it is SpringBoard itself.
-    explicit World(const Action& action, std::function<void()> beforeLoading = {});
+    explicit World(const Action& action);
 
     // Library, files and screen as they were at the start.
     void reset();

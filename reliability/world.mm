@@ -43,14 +43,14 @@ CPDistributedMessagingCenter* center() {
 
 } // namespace
 
-World::World(const Action& action, std::function<void()> beforeLoading) : m_action(action) {
+World::World(const Action& action) : m_action(action) {
     writePreferences(action.preferences);
     device().writeFile(test::file::password, "secret");
     device().writePropertyList(test::file::cameraAlbum, {"Pets"});
     lockAlbums(action.locked);
     useManualClock();
     change([](Conditions& conditions) { conditions.screen = smallScreen; });
-    start(action.application, std::move(beforeLoading));
+    start(action.application);
     if (action.application == std::string(bundle::springBoard)) return;
     static FileWriter* writer = [FileWriter new];
     [center() runServerOnCurrentThread];

@@ -2,10 +2,20 @@
 
 namespace rollkeeper {
 
+namespace {
+
+// Asked for twice: the platform raises wherever a constant that is nil is handed on as a key or a format.
+Owner<NSString> makeConstant(const char* text) {
+    const NSString made = NSString::stringWithUTF8String(text);
+    return share(made ? made : NSString::stringWithUTF8String(text));
+}
+
+} // namespace
+
 NSString detail::stringOf(ConstantString& constant) {
     id known = constant.made.load();
     if (!known) [[unlikely]] {
-        Owner<NSString> made = share(NSString::stringWithUTF8String(constant.text));
+        Owner<NSString> made = makeConstant(constant.text);
         if (constant.made.storeIfEmpty(made.get().pointer)) return made.leak();
         known = constant.made.load();
     }
