@@ -307,12 +307,10 @@ TEST_P(AlbumsScreen, covers_locked_albums_in_the_size_of_its_covers) {
         [[[UIApplication sharedApplication] keyWindow] setFrame:[[UIScreen mainScreen] bounds]];
         const std::string image = std::string("UIImageView ") + whole;
         const std::string glyph = std::string("UIImageView ") + lock;
-        const std::pair<int, std::string> forms[] = {
-            {0, image + " {UIVisualEffectView " + whole + "; " + glyph + "}"},
-            {1, image},
-            {2, image + " {" + glyph + "}"},
-            {3, "none"},
-        };
+        std::string blurred = image, small = image;
+        blurred.append(" {UIVisualEffectView ").append(whole).append("; ").append(glyph).append("}");
+        small.append(" {").append(glyph).append("}");
+        const std::pair<int, std::string> forms[] = {{0, blurred}, {1, image}, {2, small}, {3, "none"}};
         for (const auto& [preview, form] : forms) {
             SCOPED_TRACE(testing::Message() << width << " " << preview);
             reloadPreferences({{"lockedAlbumPreview", preview}});
